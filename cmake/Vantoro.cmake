@@ -1,0 +1,67 @@
+# How every target of this project is compiled, and the functions that make one library, one test
+# program, one benchmark or one fuzz target out of a folder.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+find_program(VANTORO_CCACHE ccache)
+if(VANTORO_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${VANTORO_CCACHE}")
+endif()
+
+# Flags that change how records lie in memory must be the same in every library; inside the real
+# host's tool chain they come from here too.
+add_library(HostAbi INTERFACE)
+
+add_library(VantoroFlags INTERFACE)
+target_compile_options(VantoroFlags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+if(VANTORO_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(VANTORO_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
+# The sources of a folder (not of its subfolders), without those of another operating system.
+function(vantoro_sources result folder)
+    file(GLOB sources CONFIGURE_DEPENDS "${folder}/*.cpp")
+    if(WIN32)
+        list(FILTER sources EXCLUDE REGEX "Posix\\.cpp$")
+    else()
+        list(FILTER sources EXCLUDE REGEX "Windows\\.cpp$")
+    endif()
+    set(${result} ${sources} PARENT_SCOPE)
+endfunction()
+
+# vantoro_library(NAME library...): the static library of the current folder, or an interface
+# library where the folder holds headers only. What it links is what it may include.
+function(vantoro_library name)
+    vantoro_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
+    if(sources)
+        add_library(${name} STATIC ${sources})
+        target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+        target_link_libraries(${name} PUBLIC HostAbi ${ARGN} PRIVATE VantoroFlags)
+    else()
+        add_library(${name} INTERFACE)
+        target_include_directories(${name} INTERFACE "${PROJECT_SOURCE_DIR}/src")
+        target_link_libraries(${name} INTERFACE HostAbi ${ARGN})
+    endif()
+endfunction()
+
+# vantoro_test(NAME library...): one test program of the current folder, run as one test so that
+# its fixtures are shared.
+function(vantoro_test name)
+    vantoro_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
+    if(NOT sources)
+        return()
+    endif()
+    add_executable(${name} ${sources})
+    target_link_libraries(${name} PRIVATE ${ARGN} TestSupport GTest::gtest_main VantoroFlags)
+    target_precompile_headers(${name} REUSE_FROM TestHeaders)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 1800)
+endfunction()

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Merivane::Text {
+
+/// Reads a whole file in binary. Returns false when it can't be opened or read to its end;
+/// `bytes` then holds what was read. A folder is no file.
+bool ReadFileBytes(const std::wstring& path, std::string& bytes);
+
+/// Writes a file in binary, replacing one that exists. Returns false when it can't be opened,
+/// written or closed (a full disk shows at the latest when closing); a part may then stand there.
+bool WriteFileBytes(const std::wstring& path, std::string_view bytes);
+
+/// Writes a file whole or not at all: beside its place under a temporary name, flushed to the
+/// disk, then renamed. Returns false when any of it fails; the file at `path` is then as it was and
+/// nothing is left beside it.
+bool ReplaceFile(const std::wstring& path, std::string_view bytes);
+
+} // namespace Merivane::Text

@@ -1,0 +1,24 @@
+#include "Text/FileSync.hpp"
+
+#include <io.h>
+#include <windows.h>
+
+namespace Merivane::Text {
+
+std::FILE* OpenFile(const std::wstring& path, FileMode mode) {
+    return _wfopen(path.c_str(), mode == FileMode::Read ? L"rbN" : L"wbN");
+}
+
+bool FlushToDisk(std::FILE* file) {
+    return _commit(_fileno(file)) == 0;
+}
+
+bool RenameOver(const std::wstring& from, const std::wstring& to) {
+    return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
+}
+
+void RemoveFile(const std::wstring& path) {
+    DeleteFileW(path.c_str());
+}
+
+} // namespace Merivane::Text
