@@ -1,0 +1,137 @@
+#include "Support/Places.hpp"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+// The include lines of src read against the table of layers: an edge that points back up fails.
+namespace Merivane::Tests {
+
+namespace {
+
+using Folders = std::set<std::string>;
+
+const Folders Everything = {"Text",           "Drawing",  "Photometry", "Simulation",
+                            "Simulation/Run", "Radiance", "Document",   "Gdl",
+                            "Catalog",        "Tools",    "Host",       "Archicad",
+                            "AddOn/RunLog",   "AddOn",    "Workbench",  "Program"};
+
+/// What each folder may include beside itself.
+const std::map<std::string, Folders> Layers = {
+    {"Text", {}},
+    {"Drawing", {"Text"}},
+    {"Photometry", {"Text"}},
+    {"Simulation", {"Text", "Photometry"}},
+    {"Radiance", {"Text", "Photometry", "Simulation"}},
+    {"Simulation/Run", {"Text", "Photometry", "Simulation", "Radiance"}},
+    {"Catalog", {"Text", "Photometry"}},
+    {"Document",
+     {"Text", "Drawing", "Photometry", "Simulation", "Radiance", "Simulation/Run", "Catalog"}},
+    {"Gdl", {"Text", "Photometry", "Simulation"}},
+    {"Tools", {"Text", "Photometry", "Simulation"}},
+    {"Host", {}},
+    {"AddOn/RunLog", {"Host", "Text"}},
+    {"Archicad",
+     {"Text", "Photometry", "Simulation", "Radiance", "Simulation/Run", "Catalog", "Gdl", "Tools",
+      "Host", "AddOn/RunLog"}},
+    {"Workbench", {"Host", "Text", "Drawing", "Catalog", "Photometry"}},
+    {"Program", Everything},
+};
+
+/// Folders whose sources use the standard library alone, but for the halves of an operating
+/// system.
+const Folders CoreFolders = {"Text",           "Photometry", "Simulation", "Radiance",
+                             "Simulation/Run", "Catalog",    "Gdl",        "Tools"};
+
+/// The layer of a path under src: its folder, `Simulation/Run` and `AddOn/RunLog` being their own.
+std::string LayerOf(const std::string& path) {
+    for (const std::string own : {"Simulation/Run", "AddOn/RunLog"}) {
+        if (path.rfind(own + "/", 0) == 0) {
+            return own;
+        }
+    }
+    return path.substr(0, path.find('/'));
+}
+
+bool IsOperatingSystemHalf(const std::string& path) {
+    return path.ends_with("Posix.cpp") || path.ends_with("Windows.cpp");
+}
+
+struct Include {
+    std::string file; // path under src, '/' between folders
+    std::string target;
+    bool quoted = false;
+};
+
+std::vector<Include> ReadIncludes() {
+    static const std::regex pattern(R"(^\s*#\s*include\s*(["<])([^">]+)[">])");
+    std::vector<Include> includes;
+    const std::filesystem::path root = SourceFolder() / "src";
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
+        const std::string extension = entry.path().extension().string();
+        if (extension != ".hpp" && extension != ".cpp") {
+            continue;
+        }
+        std::istringstream lines(ReadBytes(entry.path()));
+        for (std::string line; std::getline(lines, line);) {
+            std::smatch match;
+            if (std::regex_search(line, match, pattern)) {
+                includes.push_back({entry.path().lexically_relative(root).generic_string(),
+                                    match[2].str(), match[1].str() == "\""});
+            }
+        }
+    }
+    return includes;
+}
+
+} // namespace
+
+TEST(IncludeLayers, EveryFolderOfTheSourceTreeStandsInTheTable) {
+    std::size_t seen = 0;
+    for (const Include& include : ReadIncludes()) {
+        EXPECT_TRUE(Layers.count(LayerOf(include.file)) == 1) << include.file;
+        ++seen;
+    }
+    EXPECT_GT(seen, 100U);
+}
+
+TEST(IncludeLayers, NoFolderIncludesOneThatItsLayerMayNotSee) {
+    for (const Include& include : ReadIncludes()) {
+        if (!include.quoted) {
+            continue;
+        }
+        const std::string from = LayerOf(include.file);
+        const std::string to = LayerOf(include.target);
+        const bool allowed = from == to || (Layers.count(from) == 1 && Layers.at(from).count(to));
+        EXPECT_TRUE(allowed) << include.file << " includes " << include.target;
+    }
+}
+
+TEST(IncludeLayers, ProjectHeadersAreIncludedFromTheSourceRoot) {
+    for (const Include& include : ReadIncludes()) {
+        if (include.quoted) {
+            EXPECT_TRUE(std::filesystem::exists(SourceFolder() / "src" / include.target))
+                << include.file << " includes " << include.target;
+        }
+    }
+}
+
+TEST(IncludeLayers, TheCoreUsesTheStandardLibraryAlone) {
+    for (const Include& include : ReadIncludes()) {
+        if (include.quoted || IsOperatingSystemHalf(include.file) ||
+            CoreFolders.count(LayerOf(include.file)) == 0) {
+            continue;
+        }
+        // Headers of the standard library have neither an extension nor a folder.
+        EXPECT_EQ(include.target.find_first_of("./"), std::string::npos)
+            << include.file << " includes <" << include.target << ">";
+    }
+}
+
+} // namespace Merivane::Tests
