@@ -48,9 +48,13 @@ bool WriteFileBytes(const std::wstring& path, std::string_view bytes) {
     return WriteAndClose(path, bytes, false);
 }
 
+bool WriteFileFlushed(const std::wstring& path, std::string_view bytes) {
+    return WriteAndClose(path, bytes, true);
+}
+
 bool ReplaceFile(const std::wstring& path, std::string_view bytes) {
     const std::wstring beside = path + L".parcial";
-    if (WriteAndClose(beside, bytes, true) && RenameOver(beside, path)) {
+    if (WriteFileFlushed(beside, bytes) && RenameOver(beside, path)) {
         return true;
     }
     RemoveFile(beside);

@@ -13,6 +13,10 @@ bool ReadFileBytes(const std::wstring& path, std::string& bytes);
 /// written or closed (a full disk shows at the latest when closing); a part may then stand there.
 bool WriteFileBytes(const std::wstring& path, std::string_view bytes);
 
+/// `WriteFileBytes`, and the bytes are brought to the disk before it returns; false when they
+/// can't be.
+bool WriteFileFlushed(const std::wstring& path, std::string_view bytes);
+
 /// Writes a file whole or not at all: beside its place under a temporary name, flushed to the
 /// disk, then renamed. Returns false when any of it fails; the file at `path` is then as it was and
 /// nothing is left beside it.

@@ -1,0 +1,211 @@
+#include "Program/CommandLine.hpp"
+
+#include "Program/Version.hpp"
+#include "Simulation/ColorScale.hpp"
+#include "Text/Number.hpp"
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+namespace Merivane::Program {
+
+namespace {
+
+/// A value of the command line that is judged after CLI11 has split the line, so that what is
+/// wrong with it is said in Portuguese. Returns false with the sentence.
+using Judgement = std::function<bool(std::string& error)>;
+
+/// The line as CLI11 splits it; values that are not free text wait in strings.
+struct RawLine {
+    SimulateArguments simulate;
+    IesArguments ies;
+    std::string scale;
+    std::string palette;
+    std::string values;
+    std::vector<Judgement> judgements;
+};
+
+std::shared_ptr<CLI::Formatter> PortugueseHelp() {
+    auto formatter = std::make_shared<CLI::Formatter>();
+    formatter->label("Usage", "Uso");
+    formatter->label("OPTIONS", "OPÇÕES");
+    formatter->label("Positionals", "Argumentos");
+    formatter->label("SUBCOMMAND", "COMANDO");
+    formatter->label("REQUIRED", "(obrigatório)");
+    formatter->column_width(34);
+    return formatter;
+}
+
+void Prepare(CLI::App& app) {
+    app.set_help_flag("-a,--ajuda,--help", "Mostra esta ajuda");
+    app.get_help_ptr()->group("Opções");
+    app.option_defaults()->group("Opções");
+}
+
+/// Reads a positive number with a decimal point or comma.
+bool ReadPositive(std::string text, double& value) {
+    std::replace(text.begin(), text.end(), ',', '.');
+    double read = 0.0;
+    if (!Text::ReadWholeNumber(text, read) || !std::isfinite(read) || read <= 0.0) {
+        return false;
+    }
+    value = read;
+    return true;
+}
+
+bool JudgePositive(const char* option, const std::string& text, double& value, std::string& error) {
+    if (text.empty() || ReadPositive(text, value)) {
+        return true;
+    }
+    error = std::string(option) + ": \"" + text + "\" não é um número maior que zero";
+    return false;
+}
+
+bool JudgePalette(const std::string& text, std::uint32_t& colorScale, std::string& error) {
+    constexpr std::array<std::string_view, 3> names = {"espectro", "calor", "cinza"};
+    const auto found = std::find(names.begin(), names.end(), text);
+    if (!text.empty() && found == names.end()) {
+        error = "--paleta: \"" + text + "\" não existe (use espectro, calor ou cinza)";
+        return false;
+    }
+    colorScale = text.empty() ? 0U : static_cast<std::uint32_t>(found - names.begin());
+    return true;
+}
+
+CLI::App* AddSimulate(CLI::App& app, RawLine& line) {
+    CLI::App* command =
+        app.add_subcommand("simular", "Calcula a luz de uma cena e desenha as plantas");
+    Prepare(*command);
+    SimulateArguments& arguments = line.simulate;
+    command->add_option("CENA", arguments.sceneFile, "Documento da cena (JSON)")->required();
+    command->add_option("--saida", arguments.outputFolder, "Pasta dos resultados")
+        ->required()
+        ->type_name("PASTA");
+    command
+        ->add_option("--pasta-de-trabalho", arguments.workFolder,
+                     "Pasta dos arquivos do Radiance; é mantida")
+        ->type_name("PASTA");
+    command->add_option("--escala", line.scale, "Escala das plantas: 50 para 1:50")->type_name("N");
+    command->add_option("--paleta", line.palette, "Cores das faixas: espectro, calor ou cinza")
+        ->type_name("NOME");
+    command->add_option("--valores", line.values, "Escreve os valores a cada N metros nas plantas")
+        ->type_name("N");
+    command->add_flag("--repetivel", arguments.repeatable,
+                      "Um só processo e sorteio fixo: os mesmos bytes a cada vez");
+    command->add_flag("--silencioso", arguments.silent, "Só escreve os erros");
+    command->add_flag("--json", arguments.json, "Escreve o resultado em JSON na saída padrão");
+    line.judgements.emplace_back([&line](std::string& error) {
+        return JudgePositive("--escala", line.scale, line.simulate.scale, error) &&
+               JudgePositive("--valores", line.values, line.simulate.valueSpacing, error) &&
+               JudgePalette(line.palette, line.simulate.colorScale, error);
+    });
+    return command;
+}
+
+CLI::App* AddIes(CLI::App& app, RawLine& line) {
+    CLI::App* command = app.add_subcommand("ies", "Mostra o que arquivos IES contêm");
+    Prepare(*command);
+    command->add_option("ARQUIVO", line.ies.files, "Arquivos IES (LM-63)")->required();
+    command->add_flag("--curva", line.ies.curve,
+                      "Grava a curva polar de cada arquivo como PNG (NOME-curva.png)");
+    command->add_option("--saida", line.ies.outputFolder, "Pasta das curvas (a atual)")
+        ->type_name("PASTA");
+    command->add_flag("--json", line.ies.json, "Escreve em JSON na saída padrão");
+    return command;
+}
+
+std::string Before(const std::string& text, std::string_view mark) {
+    return text.substr(0, text.find(mark));
+}
+
+/// What CLI11 refused, in Portuguese. Its messages begin with the name of the option.
+std::string Translate(const CLI::ParseError& refusal, const CLI::App& app) {
+    const std::string text = refusal.what();
+    if (dynamic_cast<const CLI::ExtrasError*>(&refusal) != nullptr) {
+        const std::vector<std::string> remaining = app.remaining(true);
+        return "argumento desconhecido: " + (remaining.empty() ? text : remaining.front());
+    }
+    if (dynamic_cast<const CLI::RequiredError*>(&refusal) != nullptr) {
+        const std::string name = Before(text, " is required");
+        return name == "A subcommand" ? "falta o comando" : "falta " + name;
+    }
+    if (text.find("At Most") != std::string::npos) {
+        return Before(text, ":") + ": só pode aparecer uma vez";
+    }
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&refusal) != nullptr) {
+        return Before(text, ":") + ": falta o valor";
+    }
+    if (dynamic_cast<const CLI::ConversionError*>(&refusal) != nullptr) {
+        return "opção sem valor usada com um valor";
+    }
+    return "linha de comando inválida";
+}
+
+CommandLineResult WrongUse(const std::string& sentence, const CLI::App& app) {
+    const std::vector<CLI::App*> given = app.get_subcommands();
+    const std::string command = given.empty() ? "" : given.front()->get_name() + " ";
+    CommandLineResult result;
+    result.status = StatusWrongUse;
+    result.error = "vantoro: " + sentence + ".\nVeja \"vantoro " + command + "--ajuda\".\n";
+    return result;
+}
+
+} // namespace
+
+CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
+    CLI::App app("Vantoro: estudos de iluminação", "vantoro");
+    app.formatter(PortugueseHelp());
+    Prepare(app);
+    app.set_version_flag("--versao", std::string("vantoro ") + Version, "Mostra a versão");
+    app.require_subcommand(1);
+
+    RawLine line;
+    const CLI::App* simulate = AddSimulate(app, line);
+    const CLI::App* ies = AddIes(app, line);
+    CLI::App* check = app.add_subcommand("verificar-radiance",
+                                         "Verifica a instalação do Radiance com um teste exato");
+    Prepare(*check);
+    for (CLI::App* command : app.get_subcommands({})) {
+        command->group("Comandos");
+    }
+
+    CommandLineResult result;
+    try {
+        std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+        reversed.pop_back();
+        app.parse(reversed);
+    } catch (const CLI::CallForHelp&) {
+        result.output = app.help();
+        return result;
+    } catch (const CLI::CallForVersion&) {
+        result.output = std::string("vantoro ") + Version + "\n";
+        return result;
+    } catch (const CLI::ParseError& refusal) {
+        return WrongUse(Translate(refusal, app), app);
+    }
+
+    for (const Judgement& judge : line.judgements) {
+        std::string error;
+        if (!judge(error)) {
+            return WrongUse(error, app);
+        }
+    }
+    if (simulate->parsed()) {
+        result.request = line.simulate;
+    } else if (ies->parsed()) {
+        result.request = line.ies;
+    } else {
+        result.request = CheckRadianceArguments{};
+    }
+    return result;
+}
+
+} // namespace Merivane::Program

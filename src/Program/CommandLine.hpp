@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace Merivane::Program {
+
+/// Exit statuses of the program.
+inline constexpr int StatusDone = 0;
+inline constexpr int StatusFailed = 1;
+inline constexpr int StatusWrongUse = 2;
+inline constexpr int StatusCancelled = 130;
+
+/// `vantoro simular`: a scene document to values and pictures.
+struct SimulateArguments {
+    std::string sceneFile;
+    std::string outputFolder;
+    std::string workFolder; ///< empty = one of its own, removed after success
+    double scale = 0.0;     ///< scale denominator of the plans; 0 = chosen so that they fit
+    std::uint32_t colorScale = 0;
+    double valueSpacing = 0.0; ///< distance of written values [m]; 0 = none
+    bool repeatable = false;
+    bool silent = false;
+    bool json = false;
+};
+
+/// `vantoro ies`: what photometric files hold.
+struct IesArguments {
+    std::vector<std::string> files;
+    bool curve = false;
+    std::string outputFolder = "."; ///< of the curves
+    bool json = false;
+};
+
+/// `vantoro verificar-radiance`: the installation check.
+struct CheckRadianceArguments {};
+
+/// What was asked for on the command line; the first alternative when nothing is left to do.
+using Request =
+    std::variant<std::monostate, SimulateArguments, IesArguments, CheckRadianceArguments>;
+
+/// How reading the command line ended.
+struct CommandLineResult {
+    Request request;
+    int status = StatusDone; ///< exit status when there is no request
+    std::string output;      ///< help or version, for standard output
+    std::string error;       ///< one Portuguese sentence and a hint, for standard error
+};
+
+/// Reads the arguments of the program, `arguments[0]` being its own name.
+CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments);
+
+} // namespace Merivane::Program

@@ -1,0 +1,59 @@
+#include "Program/Progress.hpp"
+
+#include "Program/Terminal.hpp"
+
+#include <cstdio>
+
+namespace Merivane::Program {
+
+namespace {
+
+constexpr int BarWidth = 24;
+
+void DrawBar(const std::string& title, int percent) {
+    std::string bar;
+    for (int i = 0; i < BarWidth; ++i) {
+        bar += i * 100 < percent * BarWidth ? "█" : "░";
+    }
+    std::fprintf(stderr, "\r\x1b[K%s %3d %%  %s", bar.c_str(), percent, title.c_str());
+    std::fflush(stderr);
+}
+
+} // namespace
+
+ProgressStyle ChooseProgressStyle(bool silent) {
+    if (silent) {
+        return ProgressStyle::None;
+    }
+    return ErrorOutputIsTerminal() ? ProgressStyle::Bar : ProgressStyle::Lines;
+}
+
+void TellProgress(ProgressState& state, Simulation::SimulationStage stage, double fraction) {
+    if (state.style == ProgressStyle::None) {
+        return;
+    }
+    const int number = static_cast<int>(stage);
+    const int percent = static_cast<int>(fraction * 100.0 + 0.5);
+    const bool newStage = number != state.stage;
+    if (!newStage && percent == state.percent) {
+        return;
+    }
+    state.stage = number;
+    state.percent = percent;
+    const std::string title = Simulation::StageTitle(stage, state.pointCount);
+    if (state.style == ProgressStyle::Bar) {
+        DrawBar(title, percent);
+    } else if (newStage) {
+        std::fprintf(stderr, "%s\n", title.c_str());
+    }
+}
+
+void EndProgress(ProgressState& state) {
+    if (state.style == ProgressStyle::Bar && state.stage >= 0) {
+        std::fputs("\r\x1b[K", stderr);
+        std::fflush(stderr);
+    }
+    state.stage = -1;
+}
+
+} // namespace Merivane::Program

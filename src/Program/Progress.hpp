@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Simulation/SimulationRecords.hpp"
+
+#include <cstdint>
+#include <string>
+
+namespace Merivane::Program {
+
+/// How progress is told: a moving bar on a terminal, a line at the start of each stage elsewhere,
+/// nothing at all where the user wants silence. All of it goes to standard error.
+enum class ProgressStyle { Bar, Lines, None };
+
+/// `Bar` when standard error is a terminal, else `Lines`; `None` when `silent`.
+ProgressStyle ChooseProgressStyle(bool silent);
+
+/// What was last told of the progress.
+struct ProgressState {
+    ProgressStyle style = ProgressStyle::Lines;
+    std::uint64_t pointCount = 0; ///< stands in the title of the stage of points
+    int stage = -1;
+    int percent = -1;
+};
+
+/// Tells that `stage` is done to `fraction` [0..1], where that is news.
+void TellProgress(ProgressState& state, Simulation::SimulationStage stage, double fraction);
+
+/// Clears the bar, so that what follows begins on a line of its own.
+void EndProgress(ProgressState& state);
+
+} // namespace Merivane::Program
