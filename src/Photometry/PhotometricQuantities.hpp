@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Photometry/IesFile.hpp"
+
+namespace Merivane::Photometry {
+
+/// True when two angles [deg] differ by at most 1e-6: one direction in all of photometry.
+bool AnglesEqual(double a, double b);
+
+/// Metres in one unit of length of an IES file: 0.3048 for 1 (feet), 1 for anything else.
+double UnitsToMetres(int unitsType);
+
+/// Largest intensity of the table [cd], multiplier applied; 0 for an empty table and for one
+/// without a positive product.
+double PeakCandela(const IesFile& file);
+
+/// Luminous flux of the candela table [lm], by the exact integral of intensities that vary
+/// linearly in the vertical angle and trapezoids over the horizontal one. A table over a part of
+/// the circle counts for the whole of it. Neither ballast factor nor lamp lumens play a part.
+///
+/// -1 when the table can't be integrated: not of type C, without angles, or not one row of the
+/// right length for each horizontal angle.
+double TotalFlux(const IesFile& file);
+
+/// Angle from the axis [deg] at which the mean intensity of all planes first falls to half of that
+/// on the axis, interpolated linearly between whole degrees. 45 when there is no such angle up to
+/// 90, no light on the axis, or no type C table.
+double BeamHalfAngle(const IesFile& file);
+
+} // namespace Merivane::Photometry
