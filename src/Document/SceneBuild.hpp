@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Document/SceneDocument.hpp"
+#include "Simulation/Scene.hpp"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace Merivane::Document {
+
+/// What a plane of calculation points stands for in its Zone.
+enum class PlaneKind { WorkPlane, Wall, Ceiling, Floor };
+
+/// Whose points a sensor plane holds.
+struct PlaneRole {
+    std::size_t zone = 0; ///< into `SceneDocument::zones`
+    PlaneKind kind = PlaneKind::WorkPlane;
+    int wall = 0; ///< serial number of the wall within its Zone, from 1; 0 on the others
+};
+
+/// A document's scene, ready to be calculated.
+struct BuiltScene {
+    Simulation::Scene scene;
+    std::vector<PlaneRole> planes; ///< one for each sensor plane of the scene, same order
+};
+
+/// The kind as results tell it: "plano de trabalho", "parede", "teto" or "piso".
+std::string PlaneKindName(PlaneKind kind);
+
+/// Lays the calculation points of every Zone, in the document's order: its work plane, then its
+/// walls, its ceiling and its floor where the document asks for them. Planes are named after their
+/// Zone: "Sala", "Sala parede 1", "Sala teto", "Sala piso".
+///
+/// Returns false with one Portuguese sentence that names the Zone when a work plane has no point or
+/// a plane would need more than `MaximumGridNodes` nodes; `built` must then not be used.
+bool BuildScene(const SceneDocument& document, BuiltScene& built, std::string& error);
+
+} // namespace Merivane::Document
