@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Document/SceneBuild.hpp"
+#include "Simulation/SimulationRecords.hpp"
+
+#include <string>
+#include <vector>
+
+namespace Merivane::Document {
+
+/// What is told of a run beside its values.
+struct RunRecord {
+    std::string programVersion;       ///< of this program
+    std::string radianceVersion;      ///< as Radiance tells it; may be empty
+    double seconds = 0.0;             ///< wall time of the calculation [s]
+    std::vector<std::string> notices; ///< Portuguese sentences for the reader of the results
+};
+
+/// The results of a successful calculation as the text of `resultado.json`, described in
+/// docs/cena.md: every plane with its grid, the values of its points [lux] and the statistics of
+/// its task area, then the loose points. `result` must be that of `built.scene`.
+std::string WriteResultDocument(const SceneDocument& document, const BuiltScene& built,
+                                const Simulation::SimulationResult& result, const RunRecord& run);
+
+} // namespace Merivane::Document
