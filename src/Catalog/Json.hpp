@@ -55,7 +55,8 @@ private:
     std::vector<Slot> slots; ///< open addressing, a power of two; empty while `list` is short
 };
 
-/// One JSON value, copied and moved as a value. A newly made one is null.
+/// One JSON value, copied and moved as a value. A newly made one is null. How deep it nests costs
+/// no stack, neither when it is copied nor when it ends.
 struct JsonValue {
     JsonKind kind = JsonKind::Null;
     bool boolean = false;         ///< kind Boolean
@@ -69,7 +70,6 @@ struct JsonValue {
     JsonValue(JsonValue&& other) noexcept;
     JsonValue& operator=(const JsonValue& other);
     JsonValue& operator=(JsonValue&& other) noexcept;
-    /// Uses no stack for the depth of nesting.
     ~JsonValue();
 
     static JsonValue MakeNumber(double number);
@@ -92,6 +92,9 @@ struct JsonValue {
 
     /// The member's text, or `fallback` when there is no such member or it is of another kind.
     std::string StringOr(std::string_view key, std::string_view fallback) const;
+
+private:
+    bool HasChildren() const;
 };
 
 /// One member of an object.

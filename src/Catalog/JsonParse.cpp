@@ -1,0 +1,312 @@
+#include "Catalog/Json.hpp"
+
+#include "Text/Utf8.hpp"
+
+#include <charconv>
+#include <system_error>
+#include <utility>
+
+namespace Merivane::Catalog {
+
+namespace {
+
+constexpr int DeepestLevel = 64;
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// The bytes of a text that are copied without a second look.
+bool IsPlain(char c) {
+    return c != '"' && c != '\\' && static_cast<unsigned char>(c) >= 32;
+}
+
+// Recursive descent: the depth limit bounds the stack. Each reader leaves `position` behind what it
+// read; one that refuses leaves it at the byte it can't accept, with the reason in `message`.
+class Parser {
+public:
+    explicit Parser(std::string_view document) : text(document) {}
+
+    JsonParseResult ParseDocument(JsonValue& value);
+
+private:
+    bool ParseValue(JsonValue& value, int depth);
+    bool ParseLiteral(std::string_view literal, JsonKind kind, JsonValue& value);
+    bool ParseArray(JsonValue& value, int depth);
+    bool ParseObject(JsonValue& value, int depth);
+    bool ParseMember(JsonValue& value, int depth);
+    bool ParseString(std::string& string);
+    bool ParseEscape(std::string& string);
+    bool ParseCodePoint(std::string& string);
+    bool ParseHexDigits(char32_t& code);
+    bool ParseNumber(JsonValue& value);
+
+    bool AtEnd() const { return position >= text.size(); }
+    bool Next(char c) const { return !AtEnd() && text[position] == c; }
+    void SkipWhiteSpace();
+    bool Fail(const char* reason);
+
+    std::string_view text;
+    std::size_t position = 0;
+    std::string_view message;
+};
+
+bool Parser::Fail(const char* reason) {
+    message = reason;
+    return false;
+}
+
+void Parser::SkipWhiteSpace() {
+    while (Next(' ') || Next('\n') || Next('\t') || Next('\r')) {
+        ++position;
+    }
+}
+
+JsonParseResult Parser::ParseDocument(JsonValue& value) {
+    if (text.starts_with(ByteOrderMark)) {
+        position = ByteOrderMark.size();
+    }
+    SkipWhiteSpace();
+    bool ok = ParseValue(value, 0);
+    if (ok) {
+        SkipWhiteSpace();
+        ok = AtEnd() || Fail("conteudo depois do valor");
+    }
+    if (ok) {
+        return {true, {}};
+    }
+    const std::string reason(message.empty() ? "JSON invalido" : message);
+    return {false, reason + " (byte " + std::to_string(position) + ")"};
+}
+
+bool Parser::ParseValue(JsonValue& value, int depth) {
+    if (depth > DeepestLevel) {
+        return Fail("aninhamento profundo demais");
+    }
+    if (AtEnd()) {
+        return Fail("fim inesperado");
+    }
+    switch (text[position]) {
+    case '{':
+        return ParseObject(value, depth);
+    case '[':
+        return ParseArray(value, depth);
+    case '"':
+        value.kind = JsonKind::String;
+        return ParseString(value.text);
+    case 't':
+        value.boolean = true;
+        return ParseLiteral("true", JsonKind::Boolean, value);
+    case 'f':
+        return ParseLiteral("false", JsonKind::Boolean, value);
+    case 'n':
+        return ParseLiteral("null", JsonKind::Null, value);
+    default:
+        return text[position] == '-' || IsDigit(text[position]) ? ParseNumber(value)
+                                                                : Fail("valor inesperado");
+    }
+}
+
+bool Parser::ParseLiteral(std::string_view literal, JsonKind kind, JsonValue& value) {
+    if (!text.substr(position).starts_with(literal)) {
+        return Fail("valor inesperado");
+    }
+    value.kind = kind;
+    position += literal.size();
+    return true;
+}
+
+bool Parser::ParseArray(JsonValue& value, int depth) {
+    value.kind = JsonKind::Array;
+    ++position;
+    SkipWhiteSpace();
+    if (Next(']')) {
+        ++position;
+        return true;
+    }
+    for (;;) {
+        SkipWhiteSpace();
+        if (!ParseValue(value.items.emplace_back(), depth + 1)) {
+            return false;
+        }
+        SkipWhiteSpace();
+        if (Next(']')) {
+            ++position;
+            return true;
+        }
+        if (!Next(',')) {
+            return Fail("esperava ',' ou ']'");
+        }
+        ++position;
+    }
+}
+
+bool Parser::ParseObject(JsonValue& value, int depth) {
+    value.kind = JsonKind::Object;
+    ++position;
+    SkipWhiteSpace();
+    if (Next('}')) {
+        ++position;
+        return true;
+    }
+    for (;;) {
+        SkipWhiteSpace();
+        if (!ParseMember(value, depth)) {
+            return false;
+        }
+        SkipWhiteSpace();
+        if (Next('}')) {
+            ++position;
+            return true;
+        }
+        if (!Next(',')) {
+            return Fail("esperava ',' ou '}'");
+        }
+        ++position;
+    }
+}
+
+bool Parser::ParseMember(JsonValue& value, int depth) {
+    if (!Next('"')) {
+        return Fail("esperava o nome de um membro");
+    }
+    std::string key;
+    if (!ParseString(key)) {
+        return false;
+    }
+    SkipWhiteSpace();
+    if (!Next(':')) {
+        return Fail("esperava ':'");
+    }
+    ++position;
+    SkipWhiteSpace();
+    JsonValue member;
+    if (!ParseValue(member, depth + 1)) {
+        return false;
+    }
+    value.members.Set(std::move(key), std::move(member));
+    return true;
+}
+
+bool Parser::ParseString(std::string& string) {
+    ++position;
+    for (;;) {
+        const std::size_t start = position;
+        while (!AtEnd() && IsPlain(text[position])) {
+            ++position;
+        }
+        string.append(text, start, position - start);
+        if (AtEnd()) {
+            return Fail("texto sem aspas de fechamento");
+        }
+        if (text[position] == '"') {
+            ++position;
+            return true;
+        }
+        if (text[position] != '\\') {
+            return Fail("caractere de controle dentro de texto");
+        }
+        ++position;
+        if (!ParseEscape(string)) {
+            return false;
+        }
+    }
+}
+
+bool Parser::ParseEscape(std::string& string) {
+    if (AtEnd()) {
+        return Fail("texto sem aspas de fechamento");
+    }
+    constexpr std::string_view Letters = "\"\\/bfnrt";
+    constexpr std::string_view Bytes = "\"\\/\b\f\n\r\t";
+    const char letter = text[position];
+    if (letter == 'u') {
+        ++position;
+        return ParseCodePoint(string);
+    }
+    const std::size_t found = Letters.find(letter);
+    if (found == std::string_view::npos) {
+        return Fail("escape invalido");
+    }
+    string.push_back(Bytes[found]);
+    ++position;
+    return true;
+}
+
+bool Parser::ParseCodePoint(std::string& string) {
+    char32_t code = 0;
+    if (!ParseHexDigits(code)) {
+        return false;
+    }
+    if (code >= 0xD800 && code <= 0xDBFF) {
+        if (!text.substr(position).starts_with("\\u")) {
+            return Fail("par substituto incompleto");
+        }
+        position += 2;
+        const std::size_t start = position;
+        char32_t low = 0;
+        if (!ParseHexDigits(low) || low < 0xDC00 || low > 0xDFFF) {
+            position = start;
+            return Fail("par substituto invalido");
+        }
+        code = 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
+    }
+    Text::AppendUtf8(string, code);
+    return true;
+}
+
+bool Parser::ParseHexDigits(char32_t& code) {
+    constexpr std::size_t Count = 4;
+    if (text.size() - position < Count) {
+        return Fail("escape \\u incompleto");
+    }
+    code = 0;
+    for (std::size_t i = 0; i < Count; ++i) {
+        const char c = text[position];
+        char32_t digit = 0;
+        if (IsDigit(c)) {
+            digit = static_cast<char32_t>(c - '0');
+        } else if (c >= 'a' && c <= 'f') {
+            digit = static_cast<char32_t>(c - 'a' + 10);
+        } else if (c >= 'A' && c <= 'F') {
+            digit = static_cast<char32_t>(c - 'A' + 10);
+        } else {
+            return Fail("escape \\u invalido");
+        }
+        code = code * 16 + digit;
+        ++position;
+    }
+    return true;
+}
+
+// More than the number grammar of the standard is taken ("007", "1."): files are written by hand.
+bool Parser::ParseNumber(JsonValue& value) {
+    const std::size_t start = position;
+    if (Next('-')) {
+        ++position;
+    }
+    const auto belongs = [](char c) {
+        return IsDigit(c) || c == '.' || c == 'e' || c == 'E' || c == '+' || c == '-';
+    };
+    while (!AtEnd() && belongs(text[position])) {
+        ++position;
+    }
+    const char* const end = text.data() + position;
+    const auto read = std::from_chars(text.data() + start, end, value.number);
+    if (read.ec != std::errc() || read.ptr != end) {
+        position = start;
+        return Fail("numero invalido");
+    }
+    value.kind = JsonKind::Number;
+    return true;
+}
+
+} // namespace
+
+JsonParseResult JsonParse(std::string_view text, JsonValue& value) {
+    value = JsonValue();
+    return Parser(text).ParseDocument(value);
+}
+
+} // namespace Merivane::Catalog
