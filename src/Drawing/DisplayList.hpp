@@ -67,7 +67,7 @@ enum class HorizontalAnchor { Left, Center, Right };
 enum class VerticalAnchor { Base, Middle, Top };
 
 /// One line of text.
-struct Text {
+struct TextRun {
     std::string text; ///< UTF-8
     Point position;
     double height = 2.0; ///< of a capital letter [mm]
@@ -79,7 +79,7 @@ struct Text {
     double halo = 0.0; ///< width of the white border that keeps the text off what is below [mm]
 };
 
-using Element = std::variant<Area, Polyline, Arc, Text>;
+using Element = std::variant<Area, Polyline, Arc, TextRun>;
 
 /// Elements that belong together, drawn in order.
 struct Layer {

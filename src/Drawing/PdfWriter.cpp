@@ -1,0 +1,79 @@
+#include "Drawing/PdfWriter.hpp"
+
+#include "Drawing/CairoPainter.hpp"
+#include "Drawing/TextLayout.hpp"
+#include "Text/Number.hpp"
+
+#include <array>
+#include <cairo-pdf.h>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+
+namespace Merivane::Drawing {
+namespace {
+
+constexpr double PointsPerMillimetre = 72.0 / 25.4;
+constexpr std::int64_t Year2000 = 946684800;
+constexpr std::int64_t Year10000 = 253402300800;
+
+// SOURCE_DATE_EPOCH is the variable by which builds that must repeat tell their time
+// (reproducible-builds.org).
+std::int64_t CreationTime(const PdfOptions& options) {
+    std::int64_t time = Year2000;
+    if (options.creationTime) {
+        time = *options.creationTime;
+    } else if (const char* text = std::getenv("SOURCE_DATE_EPOCH")) {
+        double seconds = 0.0;
+        if (Merivane::Text::ReadWholeNumber(text, seconds) && seconds >= 0.0 &&
+            seconds < static_cast<double>(Year10000)) {
+            time = static_cast<std::int64_t>(seconds);
+        }
+    }
+    return time >= 0 && time < Year10000 ? time : Year2000;
+}
+
+std::string IsoTime(std::int64_t secondsSince1970) {
+    using namespace std::chrono;
+    const sys_seconds time{seconds(secondsSince1970)};
+    const sys_days day = floor<days>(time);
+    const year_month_day date(day);
+    const hh_mm_ss clock(time - day);
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", int(date.year()),
+                  unsigned(date.month()), unsigned(date.day()), int(clock.hours().count()),
+                  int(clock.minutes().count()), int(clock.seconds().count()));
+    return text.data();
+}
+
+} // namespace
+
+bool WritePdf(const DisplayList& list, std::string& bytes, std::string& error,
+              const PdfOptions& options) {
+    if (!CheckDisplayList(list, error)) {
+        return false;
+    }
+    std::string written;
+    const SurfacePointer surface(cairo_pdf_surface_create_for_stream(
+        AppendToString, &written, list.width * PointsPerMillimetre,
+        list.height * PointsPerMillimetre));
+    cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_TITLE,
+                                   CleanText(list.title).c_str());
+    cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE,
+                                   IsoTime(CreationTime(options)).c_str());
+    if (!PaintDisplayList(list, surface.get(), PointsPerMillimetre, TextForm::Letters, error)) {
+        return false;
+    }
+    cairo_surface_show_page(surface.get());
+    cairo_surface_finish(surface.get());
+    const cairo_status_t status = cairo_surface_status(surface.get());
+    if (status != CAIRO_STATUS_SUCCESS) {
+        error = PaintingError(status);
+        return false;
+    }
+    bytes = std::move(written);
+    return true;
+}
+
+} // namespace Merivane::Drawing

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Drawing/DisplayList.hpp"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace Merivane::Drawing {
+
+/// How a PDF is written.
+struct PdfOptions {
+    /// Creation time in the document [s since 1970, UTC]. Without one, that of the environment
+    /// variable SOURCE_DATE_EPOCH, else the start of the year 2000: never the clock.
+    std::optional<std::int64_t> creationTime;
+};
+
+/// Writes the list as a PDF document of one page of the page's real size, its font embedded.
+/// The same list and the same time give the same bytes.
+///
+/// Returns false and sets `error` to one Portuguese sentence where `CheckDisplayList` refuses or
+/// the drawing library fails; `bytes` is then untouched.
+bool WritePdf(const DisplayList& list, std::string& bytes, std::string& error,
+              const PdfOptions& options = {});
+
+} // namespace Merivane::Drawing

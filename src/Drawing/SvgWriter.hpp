@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Drawing/DisplayList.hpp"
+
+#include <string>
+
+namespace Merivane::Drawing {
+
+/// Writes the list as an SVG image of the page's real size: a group for each layer with the
+/// layer's name (Inkscape shows them as layers), texts as text, stretched to their measured width
+/// where the reader's font differs. The same list gives the same bytes.
+///
+/// Returns false and sets `error` where `CheckDisplayList` refuses; `bytes` is then untouched.
+bool WriteSvg(const DisplayList& list, std::string& bytes, std::string& error);
+
+} // namespace Merivane::Drawing
