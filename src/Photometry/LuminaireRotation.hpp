@@ -15,7 +15,7 @@ using RotationMatrix = std::array<double, 9>;
 RotationMatrix LuminaireRotation(const LuminaireSettings& settings);
 
 /// Photometric angles of a direction given in the frame that `rotation` leads to: `vertical`
-/// [deg, 0..180] from the axis of the light, `horizontal` [deg, 0..360) from the plane C0. The
+/// [deg, 0..180] from the axis of the light, `horizontal` [deg, 0..360] from the plane C0. The
 /// direction may have any length; a zero vector gives 0 and 0.
 void DirectionToIesAngles(const RotationMatrix& rotation, const std::array<double, 3>& direction,
                           double& vertical, double& horizontal);

@@ -2,16 +2,22 @@
 
 #include "Photometry/IesFile.hpp"
 
+#include <cmath>
+
 namespace Merivane::Photometry {
 
-/// True when two angles [deg] differ by at most 1e-6: one direction in all of photometry.
-bool AnglesEqual(double a, double b);
+/// Angles that differ by no more than this are one direction in all of photometry [deg].
+inline constexpr double AngleTolerance = 1e-6;
+
+/// True when two angles [deg] differ by at most `AngleTolerance`.
+inline bool AnglesEqual(double a, double b) {
+    return std::abs(a - b) <= AngleTolerance;
+}
 
 /// Metres in one unit of length of an IES file: 0.3048 for 1 (feet), 1 for anything else.
 double UnitsToMetres(int unitsType);
 
-/// Largest intensity of the table [cd], multiplier applied; 0 for an empty table and for one
-/// without a positive product.
+/// Largest value of the table times the multiplier [cd]; 0 for a table without a value above 0.
 double PeakCandela(const IesFile& file);
 
 /// Luminous flux of the candela table [lm], by the exact integral of intensities that vary
