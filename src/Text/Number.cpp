@@ -105,9 +105,15 @@ bool ReadWholeNumber(std::string_view text, double& value) {
 }
 
 std::string FormatShortest(double value) {
+    std::string text;
+    AppendShortest(text, value);
+    return text;
+}
+
+void AppendShortest(std::string& text, double value) {
     std::array<char, 64> buffer;
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-    return {buffer.data(), result.ptr};
+    text.append(buffer.data(), result.ptr);
 }
 
 namespace {

@@ -22,6 +22,9 @@ bool ReadWholeNumber(std::string_view text, double& value);
 /// shorter ("0.1", "1e+20", "1500"); "inf", "-inf", "nan" for what is not finite.
 std::string FormatShortest(double value);
 
+/// `FormatShortest` behind what `text` holds, for long rows of numbers.
+void AppendShortest(std::string& text, double value);
+
 /// The C format "%.*f" with a point, whatever the locale.
 std::string FormatFixed(double value, int decimals);
 
