@@ -1,6 +1,7 @@
 #include "Program/Interrupt.hpp"
 
 #include <csignal>
+#include <initializer_list>
 
 #include <signal.h>
 

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Program/CommandLine.hpp"
+
+namespace Merivane::Program {
+
+/// Each does its whole job, writes to standard output and standard error, and returns the exit
+/// status of the program.
+int SimulateCommand(const SimulateArguments& arguments);
+int IesCommand(const IesArguments& arguments);
+int CheckRadianceCommand(const CheckRadianceArguments& arguments);
+
+} // namespace Merivane::Program

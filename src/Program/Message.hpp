@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+
+namespace Merivane::Program {
+
+/// Writes "vantoro: " and the sentence on a line of its own to standard error.
+void TellError(std::string_view sentence);
+
+/// Writes a line to standard output.
+void TellLine(std::string_view line);
+
+} // namespace Merivane::Program

@@ -1,0 +1,198 @@
+#include "Program/Commands.hpp"
+
+#include "Archicad/AddOnFolder.hpp"
+#include "Document/PlanAssembly.hpp"
+#include "Document/ResultDocument.hpp"
+#include "Document/SceneBuild.hpp"
+#include "Document/SceneDocument.hpp"
+#include "Program/Interrupt.hpp"
+#include "Program/Message.hpp"
+#include "Program/OutputFiles.hpp"
+#include "Program/Progress.hpp"
+#include "Program/ResultFiles.hpp"
+#include "Program/Version.hpp"
+#include "Program/WorkFolder.hpp"
+#include "Radiance/Installation.hpp"
+#include "Simulation/PrintedValue.hpp"
+#include "Simulation/Run/ReflectionEstimate.hpp"
+#include "Simulation/Run/RunSimulation.hpp"
+#include "Simulation/Run/SelfTest.hpp"
+#include "Text/Utf8.hpp"
+
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace Merivane::Program {
+
+namespace {
+
+/// All that one call of the command knows, filled step by step.
+struct SimulateRun {
+    const SimulateArguments& arguments;
+    Document::SceneDocument document;
+    Document::BuiltScene built;
+    Radiance::Installation installation;
+    WorkFolder workFolder;
+    bool keepWorkFolder = false; ///< it shows why the calculation failed
+    Simulation::SimulationOptions options;
+    Simulation::SimulationResult result;
+    Document::RunRecord record;
+};
+
+bool Refuse(const std::string& sentence) {
+    TellError(sentence);
+    return false;
+}
+
+/// Reads everything that can be refused before any work is done.
+bool ReadInput(SimulateRun& run) {
+    std::string error;
+    const std::wstring scenePath = Text::Widen(run.arguments.sceneFile);
+    return (Document::ReadSceneDocument(scenePath, run.document, error) &&
+            Document::BuildScene(run.document, run.built, error) &&
+            PrepareOutputFolder(Text::Widen(run.arguments.outputFolder), error)) ||
+           Refuse(error);
+}
+
+std::string JoinNames(const std::vector<std::string>& names) {
+    std::string joined;
+    for (const std::string& name : names) {
+        joined += (joined.empty() ? "" : ", ") + name;
+    }
+    return joined;
+}
+
+bool FindRadiance(SimulateRun& run) {
+    run.installation = Radiance::FindInstallation(Archicad::AddOnFolder());
+    if (run.installation.binFolder.empty()) {
+        return Refuse("Radiance não encontrado; veja \"vantoro verificar-radiance\"");
+    }
+    if (!run.installation.complete) {
+        return Refuse("instalação do Radiance incompleta em \"" +
+                      Text::Narrow(run.installation.binFolder) + "\": falta(m) " +
+                      JoinNames(run.installation.missingTools));
+    }
+    return true;
+}
+
+/// An engine that calculates wrongly does so without a word, and by large factors: each run proves
+/// it first, at the cost of some hundredths of a second.
+bool ProveRadiance(SimulateRun& run) {
+    const Simulation::SelfTestResult test = Simulation::RadianceSelfTest(
+        run.installation, run.workFolder.path + L"/teste_radiance", Interrupted);
+    if (Interrupted()) {
+        return false;
+    }
+    if (!test.ran) {
+        return Refuse("o Radiance não conseguiu calcular: " + test.message);
+    }
+    if (!test.passed) {
+        return Refuse("o Radiance calcula errado: o teste deu " +
+                      Simulation::FormatDecimal(test.calculated, 2) + " lx onde o exato é " +
+                      Simulation::FormatDecimal(test.exact, 2) +
+                      " lx; reinstale-o e confira com \"vantoro verificar-radiance\"");
+    }
+    return true;
+}
+
+void ChooseOptions(SimulateRun& run) {
+    run.options.workFolder = run.workFolder.path;
+    run.options.radianceBinFolder = run.installation.binFolder;
+    run.options.radianceLibFolder = run.installation.libFolder;
+    run.options.engine = run.document.engine;
+    run.options.repeatable = run.arguments.repeatable;
+    if (run.arguments.repeatable) {
+        run.options.processCount = 1; // several processes never repeat exactly
+    }
+}
+
+bool Calculate(SimulateRun& run) {
+    ProgressState progress;
+    progress.style = ChooseProgressStyle(run.arguments.silent || run.arguments.json);
+    progress.pointCount = Simulation::TotalPointCount(run.built.scene);
+    const auto started = std::chrono::steady_clock::now();
+    run.result =
+        Simulation::RunSimulation(run.built.scene, run.options, Interrupted, {},
+                                  [&progress](Simulation::SimulationStage stage, double fraction) {
+                                      TellProgress(progress, stage, fraction);
+                                  });
+    const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - started;
+    EndProgress(progress);
+    run.record.seconds = elapsed.count();
+    if (run.result.cancelled) {
+        return false;
+    }
+    run.keepWorkFolder = !run.result.success;
+    return run.result.success ||
+           Refuse("o cálculo falhou: " + run.result.error + " (arquivos em \"" +
+                  Text::Narrow(run.workFolder.path) + "\")");
+}
+
+void RecordRun(SimulateRun& run) {
+    run.record.programVersion = Version;
+    run.record.radianceVersion = run.installation.version;
+    run.record.notices = run.document.warnings;
+    const std::string warning = Simulation::ReflectionWarning(run.built.scene, run.options);
+    if (!warning.empty()) {
+        run.record.notices.push_back(warning);
+    }
+}
+
+/// Draws and writes all results, and tells them.
+bool Deliver(SimulateRun& run) {
+    const std::string resultText =
+        Document::WriteResultDocument(run.document, run.built, run.result, run.record);
+    std::vector<OutputFile> files = {{"resultado.json", resultText}};
+    std::string error;
+    BuildPlaneTables(run.built, run.result, files);
+    if (!BuildPlans(
+            Document::AssemblePlans(run.document, run.built, run.result, run.record.notices),
+            PlanStyleOf(run.arguments), files, error)) {
+        return Refuse(error);
+    }
+    if (Interrupted()) {
+        return false;
+    }
+    if (!WriteOutputFiles(Text::Widen(run.arguments.outputFolder), files, error)) {
+        return Refuse(error);
+    }
+    if (run.arguments.json) {
+        std::fputs(resultText.c_str(), stdout);
+    } else if (!run.arguments.silent) {
+        TellResults(run.result, run.record, run.arguments.outputFolder, files);
+    }
+    return true;
+}
+
+} // namespace
+
+int SimulateCommand(const SimulateArguments& arguments) {
+    CatchInterrupts();
+    SimulateRun run{arguments, {}, {}, {}, {}, false, {}, {}, {}};
+    if (!ReadInput(run) || !FindRadiance(run)) {
+        return StatusFailed;
+    }
+    std::string error;
+    if (!OpenWorkFolder(arguments.workFolder, run.workFolder, error)) {
+        TellError(error);
+        return StatusFailed;
+    }
+    ChooseOptions(run);
+    RecordRun(run);
+    const bool done = ProveRadiance(run) && Calculate(run) && Deliver(run);
+    if (!run.keepWorkFolder) {
+        RemoveWorkFolder(run.workFolder);
+    }
+    if (done) {
+        return StatusDone;
+    }
+    if (Interrupted()) {
+        TellError("cálculo cancelado; nada foi gravado");
+        return StatusCancelled;
+    }
+    return StatusFailed;
+}
+
+} // namespace Merivane::Program
