@@ -4,6 +4,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace Merivane::Simulation {
@@ -35,6 +37,11 @@ struct CalculationGrid {
     bool operator==(const CalculationGrid&) const = default;
 };
 
+/// Place of node (i, j) [m]: the one rule by which nodes stand.
+inline Point2D NodePosition(const CalculationGrid& grid, std::int32_t i, std::int32_t j) {
+    return {grid.originX + i * grid.stepX, grid.originY + j * grid.stepY};
+}
+
 /// Distance between points for a bounding box of `width` x `height` [m], each at least 0: 0.1 up
 /// to 40 m2, then about 4000 nodes, 0.5 from 1000 m2 on.
 double AutomaticSpacing(double width, double height);
@@ -52,6 +59,10 @@ inline constexpr std::int64_t MaximumGridNodes = 20'000'000;
 /// How many nodes `BuildCalculationGrid` would lay; more than `MaximumGridNodes` (or infinity) is
 /// to be refused by the caller before building.
 double GridNodeCount(const Polygon2D& polygon, const GridSettings& settings);
+
+/// The Portuguese sentence that refuses the grid of the plane `planeName` for having more than
+/// `MaximumGridNodes`.
+std::string GridTooLargeMessage(std::string_view planeName);
 
 /// Number of calculation points.
 std::size_t ActiveNodeCount(const CalculationGrid& grid);
