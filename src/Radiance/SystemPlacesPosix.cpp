@@ -1,0 +1,18 @@
+#include "Radiance/SystemPlaces.hpp"
+
+namespace Merivane::Radiance {
+
+const std::wstring& ToolSuffix() {
+    static const std::wstring suffix;
+    return suffix;
+}
+
+wchar_t PathListSeparator() {
+    return L':';
+}
+
+std::vector<std::wstring> UsualBinFolders() {
+    return {L"/usr/local/radiance/bin"};
+}
+
+} // namespace Merivane::Radiance

@@ -1,0 +1,31 @@
+#include "Text/NativePath.hpp"
+
+#include "Text/Utf8.hpp"
+
+#include <type_traits>
+
+namespace Merivane::Text {
+
+namespace {
+
+constexpr bool PathsAreWide = std::is_same_v<std::filesystem::path::value_type, wchar_t>;
+
+} // namespace
+
+std::filesystem::path NativePath(const std::wstring& path) {
+    if constexpr (PathsAreWide) {
+        return path;
+    } else {
+        return Narrow(path);
+    }
+}
+
+std::wstring WidePath(const std::filesystem::path& path) {
+    if constexpr (PathsAreWide) {
+        return path.wstring();
+    } else {
+        return Widen(path.string());
+    }
+}
+
+} // namespace Merivane::Text
