@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Document/DocumentFields.hpp"
+#include "Document/SceneDocument.hpp"
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The readers of the scene document's records, each a table of its keys. They refuse as
+/// `ReadObject` does.
+namespace Merivane::Document {
+
+/// Where things of a project may stand [m].
+inline constexpr NumberRange CoordinateRange = {-100000.0, 100000.0};
+
+/// The materials of a document by their names.
+using MaterialNames = std::map<std::string, std::size_t, std::less<>>;
+
+/// The photometric files that a document names, each read once.
+struct IesLibrary {
+    IesLoader load;
+    std::map<std::string, Photometry::IesFile, std::less<>> files; ///< by path; header in UTF-8
+    std::vector<std::string> warnings; ///< of all files, each sentence with its file's name
+};
+
+bool ReadMaterial(const Place& place, Simulation::SceneMaterial& material, std::string& error);
+
+/// The names of materials in their order; refuses one that is already taken.
+bool NameMaterials(const Place& materialList,
+                   const std::vector<Simulation::SceneMaterial>& materials, MaterialNames& names,
+                   std::string& error);
+
+bool ReadSurface(const Place& place, const MaterialNames& names, Simulation::SceneSurface& surface,
+                 std::string& error);
+
+bool ReadLuminaire(const Place& place, IesLibrary& library, Simulation::SceneLuminaire& luminaire,
+                   std::string& error);
+
+bool ReadZone(const Place& place, DocumentZone& zone, std::string& error);
+
+bool ReadPoint(const Place& place, Simulation::ScenePoint& point, std::string& error);
+
+bool ReadEngine(const Place& place, Simulation::EngineSettings& engine, std::string& error);
+
+bool ReadLevels(const Place& place, Simulation::LevelList& levels, std::string& error);
+
+} // namespace Merivane::Document
