@@ -1,5 +1,7 @@
 #include "Text/Utf8.hpp"
 
+#include <algorithm>
+
 namespace Merivane::Text {
 
 namespace {
@@ -73,11 +75,14 @@ std::string TruncateUtf8(std::string_view text, std::size_t maximumBytes) {
     if (text.size() <= maximumBytes) {
         return std::string(text);
     }
-    std::size_t length = maximumBytes;
-    while (length > 0 && IsContinuation(text[length])) {
-        --length;
+    // Only a sequence that crosses the cut moves it; bytes that form none are cut where they are.
+    constexpr std::size_t mostContinuations = 3;
+    for (std::size_t back = 1; back <= std::min(maximumBytes, mostContinuations); ++back) {
+        if (SequenceLength(text.substr(maximumBytes - back)) > back) {
+            return std::string(text.substr(0, maximumBytes - back));
+        }
     }
-    return std::string(text.substr(0, length));
+    return std::string(text.substr(0, maximumBytes));
 }
 
 bool IsUtf8(std::string_view text) {

@@ -1,0 +1,114 @@
+#include "Text/FileBytes.hpp"
+
+#include "Support/Places.hpp"
+#include "Text/Utf8.hpp"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <iterator>
+#include <string>
+
+namespace Merivane::Text {
+namespace {
+
+using Tests::ReadBytes;
+using Tests::TemporaryFolder;
+using Tests::WriteBytes;
+
+std::wstring Wide(const std::filesystem::path& path) {
+    return Widen(path.string());
+}
+
+std::ptrdiff_t FileCount(const std::filesystem::path& folder) {
+    return std::distance(std::filesystem::directory_iterator(folder),
+                         std::filesystem::directory_iterator());
+}
+
+TEST(FileBytes, ReadsBackWhatItWroteByteForByte) {
+    const TemporaryFolder folder;
+    std::string all = "\r\n\n\r\x1A";
+    for (int byte = 0; byte < 256; ++byte) {
+        all += static_cast<char>(byte);
+    }
+    // Around the size of the reading buffer, and empty.
+    for (const std::size_t size : {0U, 1U, 65535U, 65536U, 65537U, 1000000U}) {
+        std::string bytes;
+        while (bytes.size() < size) {
+            bytes += all;
+        }
+        bytes.resize(size);
+        const std::wstring path = Wide(folder.Path() / "a.bin");
+        ASSERT_TRUE(WriteFileBytes(path, bytes));
+        std::string back = "old";
+        ASSERT_TRUE(ReadFileBytes(path, back));
+        EXPECT_EQ(back, bytes);
+    }
+}
+
+TEST(FileBytes, TakesPathsWithAccentsAndWithBytesThatAreNoText) {
+    const TemporaryFolder folder;
+    for (const std::string& name :
+         {std::string("lumin\xC3\xA1ria.ies"), std::string("\xFF\xB0.x")}) {
+        const std::wstring path = Widen((folder.Path() / name).string());
+        ASSERT_TRUE(WriteFileBytes(path, "1"));
+        EXPECT_TRUE(std::filesystem::exists(folder.Path() / name));
+        std::string back;
+        EXPECT_TRUE(ReadFileBytes(path, back));
+        EXPECT_EQ(back, "1");
+    }
+}
+
+TEST(FileBytes, RefusesToReadWhatIsMissingAndWhatIsAFolder) {
+    const TemporaryFolder folder;
+    std::string bytes = "old";
+    EXPECT_FALSE(ReadFileBytes(Wide(folder.Path() / "none"), bytes));
+    EXPECT_EQ(bytes, "");
+    EXPECT_FALSE(ReadFileBytes(Wide(folder.Path()), bytes));
+    EXPECT_FALSE(ReadFileBytes(L"", bytes));
+}
+
+TEST(FileBytes, SaysWhenItCannotWrite) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(WriteFileBytes(Wide(folder.Path() / "none" / "a"), "1"));
+    EXPECT_FALSE(WriteFileBytes(Wide(folder.Path()), "1"));
+    if (std::filesystem::exists("/dev/full")) {
+        EXPECT_FALSE(WriteFileBytes(L"/dev/full", "1"));
+        EXPECT_FALSE(WriteFileBytes(L"/dev/full", std::string(1000000, 'x')));
+    }
+}
+
+TEST(ReplaceFile, WritesTheFileWholeAndLeavesNothingBeside) {
+    const TemporaryFolder folder;
+    const auto path = folder.Path() / "a.txt";
+    ASSERT_TRUE(ReplaceFile(Wide(path), "one"));
+    EXPECT_EQ(ReadBytes(path), "one");
+    ASSERT_TRUE(ReplaceFile(Wide(path), "two, longer"));
+    EXPECT_EQ(ReadBytes(path), "two, longer");
+    EXPECT_EQ(FileCount(folder.Path()), 1);
+}
+
+TEST(ReplaceFile, LeavesEverythingAsItWasWhenItFails) {
+    const TemporaryFolder folder;
+    // A folder that holds something can't be renamed over.
+    const auto place = folder.Path() / "place";
+    std::filesystem::create_directory(place);
+    WriteBytes(place / "kept", "old");
+    EXPECT_FALSE(ReplaceFile(Wide(place), "new"));
+    EXPECT_EQ(ReadBytes(place / "kept"), "old");
+    EXPECT_EQ(FileCount(folder.Path()), 1);
+    EXPECT_FALSE(ReplaceFile(Wide(folder.Path() / "none" / "a"), "new"));
+}
+
+TEST(ReplaceFile, KeepsTheOldFileWhenTheNewOneCannotBeWritten) {
+    const TemporaryFolder folder;
+    const auto path = folder.Path() / "a.txt";
+    WriteBytes(path, "old");
+    // What stands in the way of the file beside makes its writing fail, as a full disk does.
+    std::filesystem::create_directory(folder.Path() / "a.txt.parcial");
+    EXPECT_FALSE(ReplaceFile(Wide(path), "new"));
+    EXPECT_EQ(ReadBytes(path), "old");
+}
+
+} // namespace
+} // namespace Merivane::Text
