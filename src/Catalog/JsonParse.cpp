@@ -1,5 +1,6 @@
 #include "Catalog/Json.hpp"
 
+#include "Catalog/JsonPlainText.hpp"
 #include "Text/Utf8.hpp"
 
 #include <charconv>
@@ -15,11 +16,6 @@ constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
-}
-
-// The bytes of a text that are copied without a second look.
-bool IsPlain(char c) {
-    return c != '"' && c != '\\' && static_cast<unsigned char>(c) >= 32;
 }
 
 // Recursive descent: the depth limit bounds the stack. Each reader leaves `position` behind what it
@@ -192,11 +188,9 @@ bool Parser::ParseMember(JsonValue& value, int depth) {
 bool Parser::ParseString(std::string& string) {
     ++position;
     for (;;) {
-        const std::size_t start = position;
-        while (!AtEnd() && IsPlain(text[position])) {
-            ++position;
-        }
-        string.append(text, start, position - start);
+        const std::size_t plain = PlainLength(text.substr(position));
+        string.append(text, position, plain);
+        position += plain;
         if (AtEnd()) {
             return Fail("texto sem aspas de fechamento");
         }

@@ -1,5 +1,6 @@
 #include "Catalog/Json.hpp"
 
+#include "Catalog/JsonPlainText.hpp"
 #include "Text/Number.hpp"
 
 #include <algorithm>
@@ -129,7 +130,11 @@ void Writer::BeginLine() {
 }
 
 void Writer::WriteNumber(double number) {
-    text += std::isfinite(number) ? Text::FormatShortest(number) : "null";
+    if (std::isfinite(number)) {
+        Text::AppendShortest(text, number);
+    } else {
+        text += "null";
+    }
 }
 
 std::string EscapeOf(char c) {
@@ -152,19 +157,15 @@ std::string EscapeOf(char c) {
 }
 
 void Writer::WriteString(std::string_view string) {
-    const auto needsEscape = [](char c) {
-        return c == '"' || c == '\\' || static_cast<unsigned char>(c) < 32;
-    };
     text += '"';
-    auto from = string.begin();
     for (;;) {
-        const auto to = std::find_if(from, string.end(), needsEscape);
-        text.append(from, to);
-        if (to == string.end()) {
+        const std::size_t plain = PlainLength(string);
+        text.append(string.substr(0, plain));
+        if (plain == string.size()) {
             break;
         }
-        text += EscapeOf(*to);
-        from = to + 1;
+        text += EscapeOf(string[plain]);
+        string.remove_prefix(plain + 1);
     }
     text += '"';
 }

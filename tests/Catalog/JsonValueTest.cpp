@@ -139,7 +139,8 @@ TEST(JsonValue, AnswersAlikeAtEveryNumberOfMembers) {
         std::vector<std::pair<std::string, double>> expected;
         JsonValue object = JsonValue::MakeObject();
         while (expected.size() < count) {
-            const std::string key = "k" + std::to_string(random() % 400);
+            std::string key = "k";
+            key += std::to_string(random() % 400);
             const double number = static_cast<double>(random() % 1000);
             object.Set(key, JsonValue::MakeNumber(number));
             auto found = expected.begin();
