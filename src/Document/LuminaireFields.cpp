@@ -4,6 +4,7 @@
 #include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"
 #include "Photometry/LuminaireTypeKey.hpp"
+#include "Photometry/OpeningCodes.hpp"
 
 #include <numbers>
 #include <utility>
@@ -53,6 +54,11 @@ const IesFile* FindIes(const Place& place, const std::string& path, IesLibrary& 
     }
     for (const std::string& warning : read.warnings) {
         library.warnings.push_back("\"" + path + "\": " + ReaderWords(warning));
+    }
+    std::string opening;
+    Photometry::WithKnownOpening(file, opening);
+    if (!opening.empty()) {
+        library.warnings.push_back("\"" + path + "\": " + opening);
     }
     NormaliseHeader(file);
     return &library.files.emplace(path, std::move(file)).first->second;
