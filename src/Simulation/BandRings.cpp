@@ -1,0 +1,78 @@
+#include "Simulation/BandRings.hpp"
+
+#include <cmath>
+
+namespace Merivane::Simulation {
+
+namespace {
+
+/// Turn to the left at `at` on the way from `previous` to `next` [rad]; -pi to pi.
+double TurnAngle(Point2D previous, Point2D at, Point2D next) {
+    const Point2D u{at.x - previous.x, at.y - previous.y};
+    const Point2D v{next.x - at.x, next.y - at.y};
+    return std::atan2(v.y * u.x - v.x * u.y, v.x * u.x + v.y * u.y);
+}
+
+/// Which way goes on at a node with two ways out. Of equal turns, and where neither is a number,
+/// the first.
+std::uint32_t LeftmostWay(const std::vector<MeshVertex>& vertices, std::uint32_t previous,
+                          std::uint32_t at) {
+    const auto& next = vertices[at].next;
+    if (next[0] == NoSlot || next[1] == NoSlot) {
+        return next[0] == NoSlot ? 1 : 0;
+    }
+    double best = -1e9;
+    std::uint32_t chosen = 0;
+    for (std::uint32_t way = 0; way < 2; ++way) {
+        const Point2D& to = vertices[(next[way] & ~PinchFlag) >> 1U].point;
+        const double angle = TurnAngle(vertices[previous].point, vertices[at].point, to);
+        if (angle > best) {
+            best = angle;
+            chosen = way;
+        }
+    }
+    return chosen;
+}
+
+/// Follows the boundary that leaves `start` by `way`. Every way that is taken is taken away, so no
+/// boundary is found twice.
+void TraceRing(std::vector<MeshVertex>& vertices, std::uint32_t start, std::uint32_t way,
+               std::vector<Point2D>& points) {
+    std::uint32_t at = start;
+    do {
+        MeshVertex& vertex = vertices[at];
+        points.push_back(vertex.point);
+        const std::uint32_t slot = vertex.next[way];
+        vertex.next[way] = NoSlot;
+        const std::uint32_t previous = at;
+        at = (slot & ~PinchFlag) >> 1U;
+        way = slot & 1U;
+        if ((slot & PinchFlag) != 0 && at != start) {
+            way = LeftmostWay(vertices, previous, at);
+        }
+    } while (at != start);
+}
+
+} // namespace
+
+BandRings TraceBandRings(ContourMesh mesh) {
+    std::vector<MeshVertex>& vertices = mesh.vertices;
+    BandRings result;
+    // Every crossing stands on the boundary of two bands.
+    result.points.reserve(2 * vertices.size());
+    for (std::uint32_t v = 0; v < vertices.size(); ++v) {
+        for (std::uint32_t way = 0; way < 2; ++way) {
+            if (vertices[v].next[way] == NoSlot) {
+                continue;
+            }
+            const bool aboveLevel = vertices[v].key != NoKey && way == HighOnLeft;
+            const std::size_t first = result.points.size();
+            TraceRing(vertices, v, way, result.points);
+            result.rings.push_back(
+                {vertices[v].level + (aboveLevel ? 1U : 0U), first, result.points.size() - first});
+        }
+    }
+    return result;
+}
+
+} // namespace Merivane::Simulation
