@@ -33,7 +33,9 @@ JsonValue MakePhotometry(std::mt19937& random) {
     photometry.Set("irc", JsonValue::MakeNumber(80.0 + Below(random, 18)));
     JsonValue& curve = photometry.Set("curva", JsonValue::MakeArray());
     for (int i = 0; i < 19; ++i) {
-        curve.items.push_back(JsonValue::MakeNumber(Below(random, 1U << 31) / 7e6));
+        const double candela =
+            Below(random, 10000000) / 1e4; // as printed; every other at full length
+        curve.items.push_back(JsonValue::MakeNumber(i % 2 == 0 ? candela : candela / 7.0));
     }
     return photometry;
 }
@@ -63,7 +65,7 @@ std::string MakeIndex() {
     JsonValue index;
     index.Set("formato", JsonValue::MakeNumber(1));
     JsonValue& products = index.Set("produtos", JsonValue::MakeArray());
-    for (int i = 0; i < 5000; ++i) {
+    for (int i = 0; i < 5500; ++i) {
         products.items.push_back(MakeProduct(random, i));
     }
     return Catalog::JsonWrite(index);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,13 @@ enum class JsonKind : std::int32_t {
 /// the list, which makes a lookup among many members take constant time, stays true.
 class JsonMembers {
 public:
+    JsonMembers();
+    JsonMembers(const JsonMembers& other);
+    JsonMembers(JsonMembers&& other) noexcept;
+    JsonMembers& operator=(const JsonMembers& other);
+    JsonMembers& operator=(JsonMembers&& other) noexcept;
+    ~JsonMembers();
+
     std::size_t size() const;
     const JsonMember* begin() const;
     const JsonMember* end() const;
@@ -43,16 +51,8 @@ public:
 private:
     friend struct JsonValue;
 
-    struct Slot {
-        std::size_t hash = 0;
-        std::size_t place = 0; ///< position in `list` + 1; 0 = free
-    };
-
-    std::size_t PositionOf(std::string_view key, std::size_t hash) const;
-    void AddToIndex(std::size_t position, std::size_t hash);
-
-    std::vector<JsonMember> list;
-    std::vector<Slot> slots; ///< open addressing, a power of two; empty while `list` is short
+    struct Table;
+    std::unique_ptr<Table> table; ///< null without members: most values are no objects
 };
 
 /// One JSON value, copied and moved as a value. A newly made one is null. How deep it nests costs
@@ -127,21 +127,5 @@ struct JsonWriteOptions {
 /// members in their order, numbers in the shortest form that reads back, `null` for a number that
 /// is not finite. The same value always gives the same bytes.
 std::string JsonWrite(const JsonValue& value, const JsonWriteOptions& options = {});
-
-inline std::size_t JsonMembers::size() const {
-    return list.size();
-}
-
-inline const JsonMember* JsonMembers::begin() const {
-    return list.data();
-}
-
-inline const JsonMember* JsonMembers::end() const {
-    return list.data() + list.size();
-}
-
-inline const JsonMember& JsonMembers::operator[](std::size_t position) const {
-    return list[position];
-}
 
 } // namespace Merivane::Catalog

@@ -1,5 +1,6 @@
 #include "Catalog/Json.hpp"
 
+#include <bit>
 #include <functional>
 #include <utility>
 
@@ -18,7 +19,24 @@ std::size_t HashOf(std::string_view key) {
 
 } // namespace
 
-std::size_t JsonMembers::PositionOf(std::string_view key, std::size_t hash) const {
+// The list, and beside it, once it is long, an index of its keys: open addressing over a power of
+// two of slots, at most half of them taken, so that every search meets a free one.
+struct JsonMembers::Table {
+    struct Slot {
+        std::size_t hash = 0;
+        std::size_t place = 0; // position in the list + 1; 0 = free
+    };
+
+    std::size_t PositionOf(std::string_view key) const;
+    void Append(std::string key, JsonValue value);
+    void AddToIndex(Slot slot);
+    void GrowIndex();
+
+    std::vector<JsonMember> list;
+    std::vector<Slot> slots;
+};
+
+std::size_t JsonMembers::Table::PositionOf(std::string_view key) const {
     if (slots.empty()) {
         for (std::size_t i = 0; i < list.size(); ++i) {
             if (list[i].key == key) {
@@ -27,6 +45,7 @@ std::size_t JsonMembers::PositionOf(std::string_view key, std::size_t hash) cons
         }
         return NotFound;
     }
+    const std::size_t hash = HashOf(key);
     const std::size_t mask = slots.size() - 1;
     for (std::size_t at = hash & mask; slots[at].place != 0; at = (at + 1) & mask) {
         if (slots[at].hash == hash && list[slots[at].place - 1].key == key) {
@@ -36,36 +55,65 @@ std::size_t JsonMembers::PositionOf(std::string_view key, std::size_t hash) cons
     return NotFound;
 }
 
-// Keeps the table at most half full, so that it always has the free slot that ends a search.
-void JsonMembers::AddToIndex(std::size_t position, std::size_t hash) {
-    const auto insert = [this](Slot slot) {
-        const std::size_t mask = slots.size() - 1;
-        std::size_t at = slot.hash & mask;
-        while (slots[at].place != 0) {
-            at = (at + 1) & mask;
-        }
-        slots[at] = slot;
-    };
-    if (slots.empty()) {
-        slots.resize(4 * LongestListWithoutIndex);
-        for (std::size_t i = 0; i < position; ++i) {
-            insert({HashOf(list[i].key), i + 1});
-        }
-    } else if (2 * (position + 1) > slots.size()) {
-        std::vector<Slot> smaller(2 * slots.size());
-        smaller.swap(slots);
-        for (const Slot& slot : smaller) {
-            if (slot.place != 0) {
-                insert(slot);
-            }
-        }
+void JsonMembers::Table::Append(std::string key, JsonValue value) {
+    list.push_back({std::move(key), std::move(value)});
+    if (list.size() <= LongestListWithoutIndex) {
+        return;
     }
-    insert({hash, position + 1});
+    if (2 * list.size() > slots.size()) {
+        GrowIndex();
+    } else {
+        AddToIndex({HashOf(list.back().key), list.size()});
+    }
+}
+
+void JsonMembers::Table::AddToIndex(Slot slot) {
+    const std::size_t mask = slots.size() - 1;
+    std::size_t at = slot.hash & mask;
+    while (slots[at].place != 0) {
+        at = (at + 1) & mask;
+    }
+    slots[at] = slot;
+}
+
+void JsonMembers::Table::GrowIndex() {
+    slots.assign(std::bit_ceil(4 * list.size()), {});
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        AddToIndex({HashOf(list[i].key), i + 1});
+    }
+}
+
+JsonMembers::JsonMembers() = default;
+JsonMembers::JsonMembers(JsonMembers&& other) noexcept = default;
+JsonMembers& JsonMembers::operator=(JsonMembers&& other) noexcept = default;
+JsonMembers::~JsonMembers() = default;
+
+JsonMembers::JsonMembers(const JsonMembers& other)
+    : table(other.table ? std::make_unique<Table>(*other.table) : nullptr) {}
+
+JsonMembers& JsonMembers::operator=(const JsonMembers& other) {
+    return *this = JsonMembers(other);
+}
+
+std::size_t JsonMembers::size() const {
+    return table ? table->list.size() : 0;
+}
+
+const JsonMember* JsonMembers::begin() const {
+    return table ? table->list.data() : nullptr;
+}
+
+const JsonMember* JsonMembers::end() const {
+    return table ? table->list.data() + table->list.size() : nullptr;
+}
+
+const JsonMember& JsonMembers::operator[](std::size_t position) const {
+    return table->list[position];
 }
 
 const JsonValue* JsonMembers::Find(std::string_view key) const {
-    const std::size_t position = PositionOf(key, slots.empty() ? 0 : HashOf(key));
-    return position == NotFound ? nullptr : &list[position].value;
+    const std::size_t position = table ? table->PositionOf(key) : NotFound;
+    return position == NotFound ? nullptr : &table->list[position].value;
 }
 
 JsonValue* JsonMembers::Find(std::string_view key) {
@@ -73,18 +121,15 @@ JsonValue* JsonMembers::Find(std::string_view key) {
 }
 
 JsonValue& JsonMembers::Set(std::string key, JsonValue value) {
-    const bool indexed = list.size() >= LongestListWithoutIndex;
-    const std::size_t hash = indexed ? HashOf(key) : 0;
-    const std::size_t position = PositionOf(key, hash);
-    if (position != NotFound) {
-        list[position].value = std::move(value);
-        return list[position].value;
+    if (!table) {
+        table = std::make_unique<Table>();
     }
-    list.push_back({std::move(key), std::move(value)});
-    if (indexed) {
-        AddToIndex(list.size() - 1, hash);
+    if (JsonValue* const present = Find(key)) {
+        *present = std::move(value);
+        return *present;
     }
-    return list.back().value;
+    table->Append(std::move(key), std::move(value));
+    return table->list.back().value;
 }
 
 JsonValue::JsonValue() = default;
@@ -115,11 +160,15 @@ JsonValue::JsonValue(const JsonValue& other) {
         for (std::size_t i = 0; i < from->items.size(); ++i) {
             copy(from->items[i], to->items[i]);
         }
-        to->members.slots = from->members.slots;
-        to->members.list.resize(from->members.list.size());
-        for (std::size_t i = 0; i < from->members.list.size(); ++i) {
-            to->members.list[i].key = from->members.list[i].key;
-            copy(from->members.list[i].value, to->members.list[i].value);
+        if (from->members.size() == 0) {
+            continue;
+        }
+        to->members.table = std::make_unique<JsonMembers::Table>();
+        to->members.table->slots = from->members.table->slots;
+        to->members.table->list.resize(from->members.size());
+        for (std::size_t i = 0; i < from->members.size(); ++i) {
+            to->members.table->list[i].key = from->members[i].key;
+            copy(from->members[i].value, to->members.table->list[i].value);
         }
     }
 }
@@ -135,13 +184,15 @@ JsonValue::~JsonValue() {
                 waiting.push_back(std::move(item));
             }
         }
-        for (JsonMember& member : parent.members.list) {
-            if (member.value.HasChildren()) {
-                waiting.push_back(std::move(member.value));
-            }
-        }
         parent.items.clear();
-        parent.members.list.clear();
+        if (parent.members.table) {
+            for (JsonMember& member : parent.members.table->list) {
+                if (member.value.HasChildren()) {
+                    waiting.push_back(std::move(member.value));
+                }
+            }
+            parent.members.table.reset();
+        }
     };
     takeParents(*this);
     while (!waiting.empty()) {
@@ -164,13 +215,12 @@ JsonValue& JsonValue::operator=(JsonValue&& other) noexcept {
     number = taken.number;
     text.swap(taken.text);
     items.swap(taken.items);
-    members.list.swap(taken.members.list);
-    members.slots.swap(taken.members.slots);
+    members.table.swap(taken.members.table);
     return *this;
 }
 
 bool JsonValue::HasChildren() const {
-    return !items.empty() || !members.list.empty();
+    return !items.empty() || members.table != nullptr;
 }
 
 JsonValue JsonValue::MakeNumber(double number) {
