@@ -46,6 +46,7 @@ void Painter::DrawStroke(const Stroke& stroke) const {
     SetColor(stroke.color);
     cairo_set_line_width(context, stroke.width);
     cairo_set_dash(context, stroke.dashes.data(), static_cast<int>(stroke.dashes.size()), 0.0);
+    cairo_set_line_cap(context, stroke.dashes.empty() ? CAIRO_LINE_CAP_ROUND : CAIRO_LINE_CAP_BUTT);
     cairo_stroke(context);
 }
 

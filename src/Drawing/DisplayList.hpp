@@ -27,7 +27,8 @@ struct Color {
 inline constexpr Color Black{0.0, 0.0, 0.0, 1.0};
 inline constexpr Color White{1.0, 1.0, 1.0, 1.0};
 
-/// How a line is drawn.
+/// How a line is drawn. Corners and the ends of continuous lines are round, so that lines which
+/// meet at a corner close it; dashes end bluntly and keep their length.
 struct Stroke {
     double width = 0.18; ///< [mm]
     Color color;

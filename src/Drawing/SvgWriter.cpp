@@ -85,7 +85,10 @@ std::string Paint(const Stroke& stroke) {
     for (double dash : stroke.dashes) {
         dashes += (dashes.empty() ? "" : " ") + Number(dash);
     }
-    return dashes.empty() ? attributes : attributes + Attribute("stroke-dasharray", dashes);
+    if (!dashes.empty()) {
+        attributes += Attribute("stroke-dasharray", dashes) + Attribute("stroke-linecap", "butt");
+    }
+    return attributes;
 }
 
 struct SvgPainter {
@@ -191,7 +194,8 @@ void AppendHead(std::string& svg, const DisplayList& list) {
     svg += Attribute("width", width + "mm") + Attribute("height", height + "mm") +
            Attribute("viewBox", "0 0 " + width + " " + height);
     svg += Attribute("font-family", std::string("'") + FontFamily + "', Verdana, sans-serif");
-    svg += " xml:space=\"preserve\" fill=\"none\" stroke-linejoin=\"round\">\n";
+    svg += " xml:space=\"preserve\" fill=\"none\" stroke-linejoin=\"round\" "
+           "stroke-linecap=\"round\">\n";
     svg += "<title>" + Escaped(list.title) + "</title>\n";
     svg += "<rect" + Attribute("width", width) + Attribute("height", height) +
            Paint("fill", White) + "/>\n";

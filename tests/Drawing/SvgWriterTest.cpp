@@ -24,7 +24,7 @@ TEST(WriteSvg, AnEmptyListIsAWhitePageOfItsRealSize) {
               "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" width=\"297mm\" "
               "height=\"210mm\" viewBox=\"0 0 297 210\" "
               "font-family=\"'DejaVu Sans', Verdana, sans-serif\" xml:space=\"preserve\" "
-              "fill=\"none\" stroke-linejoin=\"round\">\n"
+              "fill=\"none\" stroke-linejoin=\"round\" stroke-linecap=\"round\">\n"
               "<title>Vazio</title>\n"
               "<rect width=\"297\" height=\"210\" fill=\"#ffffff\"/>\n"
               "</svg>\n");
@@ -57,7 +57,7 @@ TEST(WriteSvg, WritesLinesWithTheirDashes) {
     const Polyline closed{{{0, 0}, {5, 10}, {0.12345, 5}}, true, {0.5, White, {}}};
     const std::string svg = Svg({"", 10, 10, {{"", {open, closed}}}});
     EXPECT_TRUE(Holds(svg, "<path d=\"M0 10L5 0\" stroke=\"#000000\" stroke-width=\"0.18\" "
-                           "stroke-dasharray=\"3 1.5\"/>\n"));
+                           "stroke-dasharray=\"3 1.5\" stroke-linecap=\"butt\"/>\n"));
     EXPECT_TRUE(
         Holds(svg, "<path d=\"M0 10L5 0L0.123 5Z\" stroke=\"#ffffff\" stroke-width=\"0.5\"/>\n"));
 }
