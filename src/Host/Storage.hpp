@@ -7,13 +7,17 @@
 #include <string_view>
 
 /// What the host keeps for the add-on. Defined by whichever host is linked; nothing throws.
+/// Called on the main thread only.
 namespace Merivane::Host {
 
 /// Replaces the add-on's one block of preferences, which belongs to the user and not to a project.
+/// The block is any bytes, zeros included; `version` is the add-on's own number for its form. On
+/// failure a code, and the block is as it was.
 ErrorCode SetPreferences(std::int32_t version, std::string_view block);
 
 /// Reads the block and the version number it was written with. Where none was ever written,
-/// `version` is 0 and `block` empty, and the call succeeds.
+/// `version` is 0 and `block` empty, and the call succeeds. On failure a code, and both are left as
+/// they were.
 ErrorCode GetPreferences(std::int32_t& version, std::string& block);
 
 } // namespace Merivane::Host

@@ -5,8 +5,9 @@
 
 namespace Merivane::Text {
 
-/// What `OpenFile` opens a file for; both in binary. `Write` empties or makes it.
-enum class FileMode { Read, Write };
+/// What `OpenFile` opens a file for, always in binary. `Write` empties or makes it, `Append` makes
+/// it or goes on at its end.
+enum class FileMode { Read, Write, Append };
 
 /// Opens a file by its wide path; null on failure. The caller closes it.
 std::FILE* OpenFile(const std::wstring& path, FileMode mode);
@@ -19,5 +20,11 @@ bool RenameOver(const std::wstring& from, const std::wstring& to);
 
 /// Removes a file; silent when there is none.
 void RemoveFile(const std::wstring& path);
+
+/// False when nothing stands at `path`; true also when the system won't tell.
+bool PathExists(const std::wstring& path);
+
+/// Makes a folder with the missing ones above it; true when it stands there afterwards.
+bool MakeFolders(const std::wstring& path);
 
 } // namespace Merivane::Text

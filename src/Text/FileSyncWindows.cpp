@@ -1,12 +1,16 @@
 #include "Text/FileSync.hpp"
 
+#include <filesystem>
+#include <system_error>
+
 #include <io.h>
 #include <windows.h>
 
 namespace Merivane::Text {
 
 std::FILE* OpenFile(const std::wstring& path, FileMode mode) {
-    return _wfopen(path.c_str(), mode == FileMode::Read ? L"rbN" : L"wbN");
+    const wchar_t* const modes[] = {L"rbN", L"wbN", L"abN"};
+    return _wfopen(path.c_str(), modes[static_cast<int>(mode)]);
 }
 
 bool FlushToDisk(std::FILE* file) {
@@ -19,6 +23,18 @@ bool RenameOver(const std::wstring& from, const std::wstring& to) {
 
 void RemoveFile(const std::wstring& path) {
     DeleteFileW(path.c_str());
+}
+
+bool PathExists(const std::wstring& path) {
+    std::error_code code;
+    const std::filesystem::file_status status = std::filesystem::symlink_status(path, code);
+    return status.type() != std::filesystem::file_type::not_found;
+}
+
+bool MakeFolders(const std::wstring& path) {
+    std::error_code code;
+    std::filesystem::create_directories(path, code);
+    return std::filesystem::is_directory(path, code);
 }
 
 } // namespace Merivane::Text

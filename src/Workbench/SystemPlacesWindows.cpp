@@ -1,0 +1,39 @@
+#include "Workbench/SystemPlaces.hpp"
+
+#include <array>
+
+#include <windows.h>
+
+namespace Merivane::Workbench {
+
+namespace {
+
+constexpr std::size_t LongestPath = 32768; // of the system, its NUL included
+
+} // namespace
+
+std::wstring ExecutablePath() {
+    std::wstring path(LongestPath, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path.size() < LongestPath ? path : std::wstring();
+}
+
+std::wstring SystemTemporaryFolder() {
+    std::array<wchar_t, MAX_PATH + 2> folder = {};
+    const DWORD length = GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
+    std::wstring path(folder.data(), length < folder.size() ? length : 0);
+    while (!path.empty() && path.back() == L'\\') {
+        path.pop_back();
+    }
+    return path;
+}
+
+std::wstring UserPreferencesFile() {
+    std::wstring folder(LongestPath, L'\0');
+    folder.resize(
+        GetEnvironmentVariableW(L"APPDATA", folder.data(), static_cast<DWORD>(folder.size())));
+    return folder.empty() || folder.size() >= LongestPath ? std::wstring()
+                                                          : folder + L"\\vantoro\\preferencias";
+}
+
+} // namespace Merivane::Workbench
