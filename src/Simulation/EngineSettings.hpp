@@ -21,6 +21,9 @@ struct EngineSettings {
     bool operator==(const EngineSettings&) const = default;
 };
 
+/// Key of the settings' text form in the preference block.
+inline constexpr std::string_view EngineSettingsKey = "MVENGN01";
+
 /// The profile a user asks for by number: 0 quick study, 1 design, 2 final. Any other number gives
 /// the values of "Projeto" with `profile` 1.
 EngineSettings ProfileSettings(std::uint32_t profile);
