@@ -69,8 +69,8 @@ std::string ToolVersion(const Installation& installation) {
 } // namespace
 
 const std::vector<std::string>& RequiredTools() {
-    static const std::vector<std::string> tools = {"ies2rad", "xform", "oconv", "rtrace"};
-    return tools;
+    static const std::vector<std::string> Tools = {"ies2rad", "xform", "oconv", "rtrace"};
+    return Tools;
 }
 
 std::wstring ToolPath(const std::wstring& binFolder, const std::string& tool) {

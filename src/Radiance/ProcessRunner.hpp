@@ -24,7 +24,8 @@ struct ProcessOutcome {
     bool started = false;
     bool cancelled = false; ///< `poll` stopped the call, whether or not this child had ended
 
-    /// Exit status of a child that started; 128 + n when signal n ended it.
+    /// Exit status of a child that started; 128 + n when signal n ended it, 4294967295 when the
+    /// system did not tell because the host has it reap children by itself.
     std::uint32_t exitCode = 0;
 
     /// Why the job did not start, one Portuguese sentence without accents; otherwise the bytes of

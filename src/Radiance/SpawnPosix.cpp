@@ -104,6 +104,7 @@ bool SetUpSignals(Attributes& attributes) {
 /// The texts as the null-terminated list that the system takes; they must outlive it.
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts) {
         pointers.push_back(text.data());
     }

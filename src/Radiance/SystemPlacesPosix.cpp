@@ -3,8 +3,8 @@
 namespace Merivane::Radiance {
 
 const std::wstring& ToolSuffix() {
-    static const std::wstring suffix;
-    return suffix;
+    static const std::wstring Suffix;
+    return Suffix;
 }
 
 wchar_t PathListSeparator() {

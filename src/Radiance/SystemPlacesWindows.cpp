@@ -6,8 +6,8 @@
 namespace Merivane::Radiance {
 
 const std::wstring& ToolSuffix() {
-    static const std::wstring suffix = L".exe";
-    return suffix;
+    static const std::wstring Suffix = L".exe";
+    return Suffix;
 }
 
 wchar_t PathListSeparator() {

@@ -20,7 +20,7 @@ std::string Numbered(std::size_t length) {
 std::string Bounded(const std::string& text, std::size_t pieceLength) {
     BoundedText bounded;
     for (std::size_t begin = 0; begin < text.size(); begin += pieceLength) {
-        Append(bounded, std::string_view(text).substr(begin, pieceLength));
+        Append(bounded, std::string_view{text}.substr(begin, pieceLength));
     }
     return JoinedText(bounded);
 }
@@ -33,16 +33,18 @@ std::string Shortened(const std::string& text) {
 } // namespace
 
 TEST(BoundedText, KeepsATextUpToTheLimitWhole) {
-    for (const std::size_t length : {std::size_t(0), std::size_t(1), BoundedText::HeadLimit,
-                                     BoundedText::HeadLimit + 1, Limit - 1, Limit}) {
+    const std::size_t lengths[] = {
+        0, 1, BoundedText::HeadLimit, BoundedText::HeadLimit + 1, Limit - 1, Limit};
+    for (const std::size_t length : lengths) {
         SCOPED_TRACE(length);
         EXPECT_TRUE(Bounded(Numbered(length), 512) == Numbered(length));
     }
 }
 
 TEST(BoundedText, KeepsBeginningAndEndOfALongerText) {
-    for (const std::size_t length : {Limit + 1, Limit + BoundedText::TailLimit,
-                                     Limit + BoundedText::TailLimit + 1, std::size_t(1) << 20U}) {
+    const std::size_t lengths[] = {Limit + 1, Limit + BoundedText::TailLimit,
+                                   Limit + BoundedText::TailLimit + 1, 1048576};
+    for (const std::size_t length : lengths) {
         SCOPED_TRACE(length);
         EXPECT_TRUE(Bounded(Numbered(length), 512) == Shortened(Numbered(length)));
     }
@@ -50,7 +52,7 @@ TEST(BoundedText, KeepsBeginningAndEndOfALongerText) {
 
 TEST(BoundedText, DoesNotDependOnThePiecesItCameIn) {
     const std::string text = Numbered(200000);
-    for (const std::size_t piece : {1, 7, 512, 4096, 65536, 200000}) {
+    for (const unsigned piece : {1U, 7U, 512U, 4096U, 65536U, 200000U}) {
         SCOPED_TRACE(piece);
         EXPECT_TRUE(Bounded(text, piece) == Shortened(text));
     }

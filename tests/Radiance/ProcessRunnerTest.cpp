@@ -260,9 +260,9 @@ TEST_F(ProcessRunner, TakesNoLongerThanAShortChild) {
     ProcessJob job;
     job.program = L"/bin/sleep";
     job.arguments = {L"0.005"};
-    std::vector<double> times;
-    for (int run = 0; run < 15; ++run) {
-        times.push_back(Milliseconds([&] { RunProcess(job, {}); }));
+    std::vector<double> times(15);
+    for (double& time : times) {
+        time = Milliseconds([&] { RunProcess(job, {}); });
     }
     std::sort(times.begin(), times.end());
     EXPECT_GE(times.front(), 5.0);
