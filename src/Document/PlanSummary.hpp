@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Document/PlanSheet.hpp"
+#include "Document/ResultPlan.hpp"
+
+#include <string>
+
+namespace Merivane::Document {
+
+/// The summary of a Zone: its name, Em, Emin, Emax, U0 and number of points over the task area,
+/// the height of its work plane and its border band, or the sentence that it has none.
+SheetBlock BuildSummaryBlock(const PlanZone& zone);
+
+/// A note as a paragraph of small text.
+SheetBlock BuildNoteBlock(const std::string& note);
+
+} // namespace Merivane::Document
