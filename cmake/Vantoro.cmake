@@ -14,6 +14,11 @@ endif()
 # host's tool chain they come from here too.
 add_library(HostAbi INTERFACE)
 
+# Pango's flags hold -pthread; a precompiled header fits only where all share it.
+if(UNIX)
+    add_compile_options(-pthread)
+endif()
+
 add_library(VantoroFlags INTERFACE)
 target_compile_options(VantoroFlags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)

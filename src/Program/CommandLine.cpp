@@ -1,7 +1,6 @@
 #include "Program/CommandLine.hpp"
 
 #include "Program/Version.hpp"
-#include "Simulation/ColorScale.hpp"
 #include "Text/Number.hpp"
 
 #include <CLI/App.hpp>

@@ -1,6 +1,9 @@
 #include "Program/CommandLine.hpp"
 #include "Program/Commands.hpp"
 
+#include "Workbench/Session.hpp"
+#include "Workbench/SystemPlaces.hpp"
+
 #include <cstdio>
 #include <string>
 #include <variant>
@@ -24,6 +27,10 @@ struct RunRequest {
 } // namespace
 
 int main(int argc, char** argv) {
+    Merivane::Workbench::SessionOptions session;
+    session.preferencesFile = Merivane::Workbench::UserPreferencesFile();
+    Merivane::Workbench::OpenSession(session);
+
     const CommandLineResult line = ReadCommandLine(std::vector<std::string>(argv, argv + argc));
     std::fputs(line.output.c_str(), stdout);
     std::fputs(line.error.c_str(), stderr);

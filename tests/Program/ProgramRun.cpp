@@ -1,0 +1,73 @@
+#include "Program/ProgramRun.hpp"
+
+#include "Support/Places.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include <sys/wait.h>
+
+namespace Merivane::Tests {
+
+namespace {
+
+std::string ReadIfThere(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+} // namespace
+
+std::string ShellWord(const std::string& text) {
+    std::string word = "'";
+    for (const char c : text) {
+        word += c == '\'' ? "'\\''" : std::string(1, c);
+    }
+    return word + "'";
+}
+
+ProgramEnd RunVantoro(const std::vector<std::string>& arguments, const ProgramCall& call) {
+    const TemporaryFolder own;
+    std::filesystem::create_directories(own.Path() / "tmp");
+    const std::filesystem::path program =
+        call.program.empty() ? BuildFolder() / "vantoro" : call.program;
+    const std::filesystem::path folder = call.folder.empty() ? own.Path() : call.folder;
+
+    std::string command = "cd " + ShellWord(folder.string()) +
+                          " && export TMPDIR=" + ShellWord((own.Path() / "tmp").string()) +
+                          " XDG_CONFIG_HOME=" + ShellWord((own.Path() / "config").string()) + "; " +
+                          call.prelude + " exec " + ShellWord(program.string());
+    for (const std::string& argument : arguments) {
+        command += " " + ShellWord(argument);
+    }
+    command += " </dev/null >" + ShellWord((own.Path() / "out").string()) + " 2>" +
+               ShellWord((own.Path() / "err").string());
+
+    const int ended = std::system(command.c_str());
+    ProgramEnd end;
+    end.status = WIFEXITED(ended) ? WEXITSTATUS(ended) : 128 + WTERMSIG(ended);
+    end.output = ReadIfThere(own.Path() / "out");
+    end.error = ReadIfThere(own.Path() / "err");
+    return end;
+}
+
+int ProcessesWith(const std::string& text) {
+    int count = 0;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+        const std::string name = entry.path().filename().string();
+        if (name.find_first_not_of("0123456789") != std::string::npos) {
+            continue;
+        }
+        if (ReadIfThere(entry.path() / "cmdline").find(text) != std::string::npos ||
+            ReadIfThere(entry.path() / "environ").find(text) != std::string::npos) {
+            ++count;
+        }
+    }
+    return count;
+}
+
+} // namespace Merivane::Tests

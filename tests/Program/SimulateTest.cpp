@@ -1,0 +1,259 @@
+#include "Catalog/Json.hpp"
+#include "Program/ProgramRun.hpp"
+#include "Program/SampleScene.hpp"
+#include "Support/Places.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <set>
+
+namespace Merivane::Tests {
+
+namespace {
+
+/// Names of everything in a folder; empty when there is none.
+std::set<std::string> NamesIn(const std::filesystem::path& folder) {
+    std::set<std::string> names;
+    std::error_code none;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, none)) {
+        names.insert(entry.path().filename().string());
+    }
+    return names;
+}
+
+const std::set<std::string> AllOutputs = {"resultado.json", "Sala.csv", "planta.svg", "planta.pdf",
+                                          "planta.png"};
+
+std::string RealTool(const std::string& tool) {
+    return ShellWord((BuildFolder() / "Vantoro Radiance" / "bin" / tool).string());
+}
+
+/// A folder with the sample scene and a place for its results.
+struct SampleRun {
+    TemporaryFolder folder;
+    std::filesystem::path scene = WriteSampleScene(folder.Path());
+    std::filesystem::path out = folder.Path() / "saida";
+
+    std::vector<std::string> Arguments(const std::vector<std::string>& more = {}) const {
+        std::vector<std::string> arguments = {"simular", scene.string(), "--saida", out.string()};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return arguments;
+    }
+};
+
+/// Calls a copy of the program with a Radiance program replaced; empty script = removed.
+ProgramEnd RunWithTool(const SampleRun& run, const std::string& tool, const std::string& script) {
+    const TemporaryFolder place;
+    ProgramCall call;
+    call.program = CopyProgram(place.Path());
+    call.prelude = "PATH=/usr/bin:/bin; unset RADIANCE;";
+    ReplaceTool(call.program, tool, script);
+    return RunVantoro(run.Arguments(), call);
+}
+
+void ExpectNothingWritten(const SampleRun& run) {
+    EXPECT_EQ(NamesIn(run.out), std::set<std::string>{});
+}
+
+} // namespace
+
+TEST(Simulate, WritesNumbersTablesAndPlans) {
+    const SampleRun run;
+    const ProgramEnd end = RunVantoro(run.Arguments());
+    EXPECT_EQ(end.status, 0) << end.error;
+    EXPECT_EQ(NamesIn(run.out), AllOutputs);
+
+    Catalog::JsonValue result;
+    ASSERT_TRUE(Catalog::JsonParse(ReadBytes(run.out / "resultado.json"), result).ok);
+    ASSERT_NE(result.Find("planos"), nullptr);
+    ASSERT_EQ(result.Find("planos")->items.size(), 1U);
+    const Catalog::JsonValue& plane = result.Find("planos")->items[0];
+    EXPECT_EQ(plane.StringOr("nome", ""), "Sala");
+    const Catalog::JsonValue* statistics = plane.Find("estatisticas");
+    ASSERT_NE(statistics, nullptr);
+    EXPECT_GT(statistics->NumberOr("Em", 0), 50.0);
+    EXPECT_LT(statistics->NumberOr("Emin", 1e9), statistics->NumberOr("Em", 0));
+    EXPECT_NEAR(statistics->NumberOr("U0", 0),
+                statistics->NumberOr("Emin", 0) / statistics->NumberOr("Em", 1), 1e-12);
+    EXPECT_EQ(result.Find("pontos")->items.size(), 1U);
+    EXPECT_NE(end.output.find("Planta: " + (run.out / "planta.png").string()), std::string::npos);
+}
+
+TEST(Simulate, TellsTheStagesAsLinesWhereThereIsNoTerminal) {
+    const SampleRun run;
+    const ProgramEnd end = RunVantoro(run.Arguments());
+    EXPECT_EQ(end.error, "Preparando a cena (luminárias e geometria)\nPontos de cálculo (" +
+                             std::to_string(13 * 9 + 1) +
+                             ")\nObservadores (UGR)\n");
+}
+
+TEST(Simulate, IsSilentWhenAskedTo) {
+    const SampleRun run;
+    const ProgramEnd end = RunVantoro(run.Arguments({"--silencioso"}));
+    EXPECT_EQ(end.status, 0);
+    EXPECT_EQ(end.output, "");
+    EXPECT_EQ(end.error, "");
+    EXPECT_EQ(NamesIn(run.out), AllOutputs);
+}
+
+TEST(Simulate, GivesAProgramTheResultDocumentOnStandardOutput) {
+    const SampleRun run;
+    const ProgramEnd end = RunVantoro(run.Arguments({"--json"}));
+    EXPECT_EQ(end.status, 0);
+    EXPECT_EQ(end.error, "");
+    EXPECT_EQ(end.output, ReadBytes(run.out / "resultado.json"));
+}
+
+TEST(Simulate, RepeatsByteForByteWhenAskedTo) {
+    const SampleRun first;
+    const SampleRun second;
+    EXPECT_EQ(RunVantoro(first.Arguments({"--repetivel"})).status, 0);
+    EXPECT_EQ(RunVantoro(second.Arguments({"--repetivel"})).status, 0);
+    for (const std::string& name : AllOutputs) {
+        if (name != "resultado.json") { // it tells the seconds that the run took
+            EXPECT_EQ(ReadBytes(first.out / name), ReadBytes(second.out / name)) << name;
+        }
+    }
+}
+
+TEST(Simulate, KeepsAWorkFolderThatTheUserNamedAndRemovesItsOwn) {
+    const SampleRun run;
+    const std::filesystem::path work = run.folder.Path() / "trabalho";
+    EXPECT_EQ(RunVantoro(run.Arguments({"--pasta-de-trabalho", work.string()})).status, 0);
+    EXPECT_EQ(NamesIn(work).count("illuminance.txt"), 1U);
+
+    const TemporaryFolder temporary;
+    ProgramCall call;
+    call.prelude = "export TMPDIR=" + ShellWord(temporary.Path().string()) + ";";
+    EXPECT_EQ(RunVantoro(run.Arguments(), call).status, 0);
+    EXPECT_EQ(NamesIn(temporary.Path() / "Vantoro"), std::set<std::string>{});
+}
+
+TEST(Simulate, LeavesOtherFilesOfTheOutputFolderAlone) {
+    const SampleRun run;
+    std::filesystem::create_directories(run.out);
+    WriteBytes(run.out / "notas.txt", "minhas");
+    WriteBytes(run.out / "planta.png", "velha");
+    EXPECT_EQ(RunVantoro(run.Arguments()).status, 0);
+    EXPECT_EQ(ReadBytes(run.out / "notas.txt"), "minhas");
+    EXPECT_NE(ReadBytes(run.out / "planta.png"), "velha");
+}
+
+TEST(Simulate, RefusesADocumentThatCannotBeReadAndWritesNothing) {
+    const SampleRun run;
+    std::filesystem::remove(run.scene);
+    const ProgramEnd end = RunVantoro(run.Arguments());
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.output, "");
+    EXPECT_NE(end.error.find("cena.json"), std::string::npos) << end.error;
+    EXPECT_EQ(std::count(end.error.begin(), end.error.end(), '\n'), 1) << end.error;
+    ExpectNothingWritten(run);
+}
+
+TEST(Simulate, RefusesAnOutputFolderThatCannotBeMade) {
+    SampleRun run;
+    WriteBytes(run.folder.Path() / "arquivo", "x");
+    run.out = run.folder.Path() / "arquivo" / "saida";
+    const ProgramEnd end = RunVantoro(run.Arguments());
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error, "vantoro: não foi possível criar a pasta \"" + run.out.string() + "\".\n");
+}
+
+TEST(Simulate, RefusesAWorkFolderThatCannotBeMade) {
+    const SampleRun run;
+    WriteBytes(run.folder.Path() / "arquivo", "x");
+    const std::string work = (run.folder.Path() / "arquivo" / "trabalho").string();
+    const ProgramEnd end = RunVantoro(run.Arguments({"--pasta-de-trabalho", work}));
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error, "vantoro: não foi possível criar a pasta \"" + work + "\".\n");
+    ExpectNothingWritten(run);
+}
+
+TEST(Simulate, LeavesNothingHalfWrittenOnAFullDisk) {
+    const SampleRun run;
+    ProgramCall call;
+    // No file may grow past 16 blocks of 512 bytes: the octree fits, the pictures do not.
+    call.prelude = "trap '' XFSZ; ulimit -f 16;";
+    const ProgramEnd end = RunVantoro(run.Arguments({"--silencioso"}), call);
+    EXPECT_EQ(end.status, 1);
+    EXPECT_NE(end.error.find("não foi possível gravar \"" + run.out.string()), std::string::npos)
+        << end.error;
+    EXPECT_EQ(std::count(end.error.begin(), end.error.end(), '\n'), 1) << end.error;
+    ExpectNothingWritten(run);
+}
+
+TEST(Simulate, SaysThatThereIsNoRadiance) {
+    const SampleRun run;
+    const ProgramEnd end = RunWithTool(run, "rtrace", "");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error,
+              "vantoro: Radiance não encontrado; veja \"vantoro verificar-radiance\".\n");
+    ExpectNothingWritten(run);
+}
+
+TEST(Simulate, NamesTheProgramThatAnInstallationLacks) {
+    const SampleRun run;
+    const ProgramEnd end = RunWithTool(run, "oconv", "");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_NE(end.error.find("vantoro: instalação do Radiance incompleta em \""),
+              std::string::npos);
+    EXPECT_NE(end.error.find("\": falta(m) oconv.\n"), std::string::npos) << end.error;
+    ExpectNothingWritten(run);
+}
+
+TEST(Simulate, RefusesAnEngineThatCalculatesWrongly) {
+    const SampleRun run;
+    const ProgramEnd end = RunWithTool(
+        run, "rtrace",
+        "if [ \"$1\" = -version ]; then exec " + RealTool("rtrace") + " -version; fi\n" +
+            RealTool("rtrace") + " \"$@\" | awk '{ print $1 * 0.36, $2 * 0.36, $3 * 0.36 }'\n");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error, "vantoro: o Radiance calcula errado: o teste deu 3,24 lx onde o exato é "
+                         "8,99 lx; reinstale-o e confira com \"vantoro verificar-radiance\".\n");
+    ExpectNothingWritten(run);
+}
+
+TEST(Simulate, SaysWhichProgramWasKilledFromOutside) {
+    const SampleRun run;
+    // The self-test's scene has no material called Branco; only the real run is killed.
+    const ProgramEnd end =
+        RunWithTool(run, "rtrace",
+                    "if [ \"$1\" = -version ] || ! grep -q Branco materials.rad; then exec " +
+                        RealTool("rtrace") + " \"$@\"; fi\nkill -9 $$\n");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_NE(end.error.find("vantoro: o cálculo falhou: calculo (rtrace): rtrace terminou com "
+                             "erro 137 (arquivos em \""),
+              std::string::npos)
+        << end.error;
+    ExpectNothingWritten(run);
+}
+
+TEST(Simulate, StopsOnInterruptWithinFiveSecondsAndLeavesNoChild) {
+    for (const std::string signal : {"INT", "TERM"}) {
+        const SampleRun run;
+        const TemporaryFolder place;
+        ProgramCall call;
+        call.program = CopyProgram(place.Path());
+        ReplaceTool(call.program, "rtrace",
+                    "if [ \"$1\" = -version ] || ! grep -q Branco materials.rad; then exec " +
+                        RealTool("rtrace") + " \"$@\"; fi\ntouch " +
+                        ShellWord((place.Path() / "started").string()) + "\nsleep 60\n");
+        // A watcher sends the signal once the calculation has begun and notes when.
+        call.prelude = "export VANTORO_TEST_MARK=" + ShellWord(place.Path().string()) +
+                       "; me=$$; (while [ ! -e " + ShellWord((place.Path() / "started").string()) +
+                       " ]; do sleep 0.05; done; kill -" + signal + " $me) >/dev/null 2>&1 &";
+        const auto started = std::chrono::steady_clock::now();
+        const ProgramEnd end = RunVantoro(run.Arguments({"--silencioso"}), call);
+        const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - started;
+        EXPECT_EQ(end.status, 130);
+        EXPECT_LT(elapsed.count(), 10.0); // of which the run up to the signal takes some
+        EXPECT_EQ(end.error, "vantoro: cálculo cancelado; nada foi gravado.\n");
+        EXPECT_EQ(ProcessesWith("VANTORO_TEST_MARK=" + place.Path().string()), 0);
+        ExpectNothingWritten(run);
+    }
+}
+
+} // namespace Merivane::Tests
