@@ -6,6 +6,7 @@
 
 #include "Photometry/OpeningCodes.hpp"
 
+#include "Photometry/InertHeader.hpp"
 #include "Photometry/PhotometricQuantities.hpp"
 #include "Text/Number.hpp"
 
@@ -145,9 +146,11 @@ IesFile WithKnownOpening(const IesFile& file, std::string& warning) {
     const Opening known = KnownForm(told, LeastSide / UnitsToMetres(file.unitsType));
     const bool sameShape =
         known == asRead || (IsRound(known) && IsRoundCode(told, file.formatVersion));
-    warning = sameShape ? std::string() : ChangeSentence(file, known);
 
-    IesFile changed = file;
+    IesFile changed = WithInertHeader(file, warning);
+    if (!sameShape) {
+        warning += (warning.empty() ? "" : "; ") + ChangeSentence(file, known);
+    }
     changed.width = known.width;
     changed.length = known.length;
     changed.height = known.height;

@@ -15,6 +15,9 @@ namespace Merivane::Photometry {
 /// (ellipse, ellipsoid, horizontal cylinder, a bare line) or that the file's edition does not know
 /// becomes the nearest that it does; `warning` is then one Portuguese sentence that names the
 /// sides before and after. Otherwise `warning` is empty. `formatVersion` is at least 3 afterwards.
+///
+/// The header is that of `WithInertHeader`, whose warning comes first where there are both: a
+/// geometry file would take the opening's place.
 IesFile WithKnownOpening(const IesFile& file, std::string& warning);
 
 } // namespace Merivane::Photometry

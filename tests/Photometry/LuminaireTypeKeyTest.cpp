@@ -1,0 +1,38 @@
+#include "Photometry/LuminaireTypeKey.hpp"
+
+#include <gtest/gtest.h>
+
+namespace Merivane::Photometry {
+namespace {
+
+TEST(LuminaireTypeKey, JoinsCodeNameAndLamp) {
+    EXPECT_EQ(LuminaireTypeKey("C-1", "Spot", "LED 10W", "a.ies"), "C-1\x1FSpot\x1FLED 10W");
+    EXPECT_EQ(LuminaireTypeKey("C-1", "", "", "a.ies"), "C-1\x1F\x1F");
+    EXPECT_EQ(LuminaireTypeKey("", "Spot", "", "a.ies"), "\x1FSpot\x1F");
+}
+
+TEST(LuminaireTypeKey, NormalisesWhiteSpaceInEveryField) {
+    EXPECT_EQ(LuminaireTypeKey(" C \t 1 ", "\r\nSpot\v\ffixo ", "  LED  10W\n", ""),
+              "C 1\x1FSpot fixo\x1FLED 10W");
+}
+
+TEST(LuminaireTypeKey, GoesByTheIesFileWhenCodeAndNameAreEmpty) {
+    EXPECT_EQ(LuminaireTypeKey("", " \t", "LED", " my  file.ies "), "\x1Fmy file.ies\x1FLED");
+    EXPECT_EQ(LuminaireTypeKey("", "", "", ""), "\x1F\x1F");
+}
+
+TEST(LuminaireTypeKey, SetsLinearLuminairesApart) {
+    EXPECT_EQ(LuminaireTypeKey("C", "N", "L", "f", true), "C\x1FN\x1FL\nfita");
+    EXPECT_NE(LuminaireTypeKey("C", "N", "L", "f", true), LuminaireTypeKey("C", "N", "L", "f"));
+    // White space is normalised, so no lamp text can forge the mark.
+    EXPECT_NE(LuminaireTypeKey("C", "N", "L\nfita", "f"),
+              LuminaireTypeKey("C", "N", "L", "f", true));
+}
+
+TEST(LuminaireTypeKey, TellsFieldsApartByTheirPlace) {
+    EXPECT_NE(LuminaireTypeKey("A B", "", "", ""), LuminaireTypeKey("A", "B", "", ""));
+    EXPECT_NE(LuminaireTypeKey("A", "B", "", ""), LuminaireTypeKey("A", "", "B", ""));
+}
+
+} // namespace
+} // namespace Merivane::Photometry
