@@ -21,10 +21,4 @@ bool RenameOver(const std::wstring& from, const std::wstring& to);
 /// Removes a file; silent when there is none.
 void RemoveFile(const std::wstring& path);
 
-/// False when nothing stands at `path`; true also when the system won't tell.
-bool PathExists(const std::wstring& path);
-
-/// Makes a folder with the missing ones above it; true when it stands there afterwards.
-bool MakeFolders(const std::wstring& path);
-
 } // namespace Merivane::Text

@@ -1,8 +1,5 @@
 #include "Text/FileSync.hpp"
 
-#include <filesystem>
-#include <system_error>
-
 #include "Text/Utf8.hpp"
 
 #include <unistd.h>
@@ -25,18 +22,6 @@ bool RenameOver(const std::wstring& from, const std::wstring& to) {
 
 void RemoveFile(const std::wstring& path) {
     ::unlink(Narrow(path).c_str());
-}
-
-bool PathExists(const std::wstring& path) {
-    std::error_code code;
-    const std::filesystem::file_status status = std::filesystem::symlink_status(Narrow(path), code);
-    return status.type() != std::filesystem::file_type::not_found;
-}
-
-bool MakeFolders(const std::wstring& path) {
-    std::error_code code;
-    std::filesystem::create_directories(Narrow(path), code);
-    return std::filesystem::is_directory(Narrow(path), code);
 }
 
 } // namespace Merivane::Text

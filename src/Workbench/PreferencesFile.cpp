@@ -1,12 +1,14 @@
 #include "Workbench/PreferencesFile.hpp"
 
 #include <cmath>
+#include <filesystem>
 #include <limits>
+#include <system_error>
 #include <utility>
 
 #include "Catalog/Json.hpp"
 #include "Text/FileBytes.hpp"
-#include "Text/FileSync.hpp"
+#include "Text/NativePath.hpp"
 
 namespace Merivane::Workbench {
 
@@ -75,7 +77,9 @@ bool ParsePreferences(std::string_view text, Preferences& preferences) {
 }
 
 bool LoadPreferences(const std::wstring& path, Preferences& preferences) {
-    if (!Text::PathExists(path)) {
+    std::error_code code;
+    const auto status = std::filesystem::status(Text::NativePath(path), code);
+    if (status.type() == std::filesystem::file_type::not_found) {
         preferences = {};
         return true;
     }
@@ -88,10 +92,8 @@ bool SavePreferences(const std::wstring& path, const Preferences& preferences) {
     if (!LoadPreferences(path, present)) {
         return false;
     }
-    const std::size_t separator = path.find_last_of(L"/\\");
-    if (separator != std::wstring::npos && !Text::MakeFolders(path.substr(0, separator))) {
-        return false;
-    }
+    std::error_code ignored; // without its folder the file can't be written, which tells the same
+    std::filesystem::create_directories(Text::NativePath(path).parent_path(), ignored);
     return Text::ReplaceFile(path, FormatPreferences(preferences));
 }
 

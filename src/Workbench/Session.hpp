@@ -20,10 +20,10 @@ struct ReportLine {
 
 /// What a session is opened with. Paths are full ones.
 struct SessionOptions {
-    std::wstring ownLocation;     ///< of the add-on; empty = the running program's file
-    std::wstring temporaryFolder; ///< empty = the system's
-    std::wstring preferencesFile; ///< empty = the preferences live as long as the session
-    std::function<void(const ReportLine&)> onReport; ///< told of each report line, if given
+    std::wstring ownLocation = {};     ///< of the add-on; empty = the running program's file
+    std::wstring temporaryFolder = {}; ///< empty = the system's
+    std::wstring preferencesFile = {}; ///< empty = the preferences live as long as the session
+    std::function<void(const ReportLine&)> onReport = {}; ///< told of each report line, if given
 };
 
 /// The add-on's block of preferences as the host keeps it.

@@ -5,10 +5,13 @@
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
+#include <filesystem>
+#include <system_error>
 
 #include "Host/Session.hpp"
 #include "Text/Ascii.hpp"
 #include "Text/FileSync.hpp"
+#include "Text/NativePath.hpp"
 #include "Text/Utf8.hpp"
 
 namespace Merivane::Commands {
@@ -70,9 +73,8 @@ void AppendLog(std::string_view fileName, std::string_view text, bool truncate) 
         return;
     }
     folder += L"/Vantoro";
-    if (!Text::MakeFolders(folder)) {
-        return;
-    }
+    std::error_code ignored; // without the folder the file can't be opened
+    std::filesystem::create_directories(Text::NativePath(folder), ignored);
     std::FILE* const file =
         Text::OpenFile(folder + L"/" + Text::Widen(fileName),
                        truncate ? Text::FileMode::Write : Text::FileMode::Append);
