@@ -1,0 +1,60 @@
+#include "Simulation/CurveLabels.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+namespace Merivane::Simulation {
+
+namespace {
+
+constexpr std::size_t FewestPoints = 6;
+constexpr double LeastDistance = 0.35; // [m]
+constexpr double NoLabelYet = 1e9;     // [m]
+
+double DistanceToNearest(const std::vector<Point2D>& placed, Point2D point) {
+    double nearest = NoLabelYet;
+    for (const Point2D& label : placed) {
+        nearest = std::min(nearest, std::hypot(point.x - label.x, point.y - label.y));
+    }
+    return nearest;
+}
+
+std::optional<Point2D> ChoosePoint(const IsoCurve& curve, const std::vector<Point2D>& placed) {
+    if (curve.points.size() < FewestPoints) {
+        return std::nullopt;
+    }
+    Point2D best;
+    double farthest = -1.0;
+    for (const Point2D& point : curve.points) {
+        const double distance = DistanceToNearest(placed, point);
+        if (distance > farthest) {
+            farthest = distance;
+            best = point;
+        }
+    }
+    return farthest < LeastDistance ? std::nullopt : std::optional<Point2D>(best);
+}
+
+} // namespace
+
+CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves) {
+    CurveLabels labels;
+    std::vector<Point2D> placed;
+    for (const IsoCurve& curve : curves) {
+        const std::optional<Point2D> position = ChoosePoint(curve, placed);
+        if (position) {
+            placed.push_back(*position);
+        } else {
+            ++labels.unlabelled;
+        }
+        labels.positions.push_back(position);
+    }
+    return labels;
+}
+
+std::string UnlabelledCurvesText(std::uint64_t count) {
+    return std::to_string(count) + " curva(s) sem rotulo (pequenas demais ou sem espaco livre)";
+}
+
+} // namespace Merivane::Simulation

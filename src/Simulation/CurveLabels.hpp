@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Simulation/ContourRecords.hpp"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Merivane::Simulation {
+
+/// Where the levels of curves are written.
+struct CurveLabels {
+    std::vector<std::optional<Point2D>> positions; ///< one for each curve, same order [m]
+    std::uint64_t unlabelled = 0;                  ///< curves without a label
+};
+
+/// Places at most one label on each curve, clear of all others: each goes to the curve's point
+/// that is farthest from the labels already placed, the first of equals. A curve of fewer than 6
+/// points, or without a point at least 0.35 m from every label, gets none.
+CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves);
+
+/// One line for the log on curves without a label: "3 curva(s) sem rotulo (...)".
+std::string UnlabelledCurvesText(std::uint64_t count);
+
+} // namespace Merivane::Simulation
