@@ -209,8 +209,7 @@ void AppendCurveLabels(Drawing::Layer& layer, TextSpace& space, const PlanSheet&
         if (!labels.positions[k]) {
             continue;
         }
-        TextRun text =
-            CenteredText(Simulation::FormatLevelLabel(curves[k].level) + " lx", CurveLabelHeight);
+        TextRun text = CenteredText(Simulation::CurveLabelText(curves[k].level), CurveLabelHeight);
         text.halo = CurveHalo;
         const double aside = 0.35 * Drawing::MeasureText(text.text, text.height).width;
         if (PlaceText(space, text, CurvePlaces(sheet, curves[k], *labels.positions[k], aside))) {
