@@ -46,6 +46,12 @@ function(vantoro_sources result folder)
     set(${result} ${sources} PARENT_SCOPE)
 endfunction()
 
+# Test code runs once: compiling it is what costs, so it is optimised a little only. All test
+# programs and the header that they share must agree on this.
+add_library(TestFlags INTERFACE)
+target_link_libraries(TestFlags INTERFACE VantoroFlags)
+target_compile_options(TestFlags INTERFACE $<$<CONFIG:Release>:-O1>)
+
 # vantoro_library(NAME library...): the static library of the current folder, or an interface
 # library where the folder holds headers only. What it links is what it may include.
 function(vantoro_library name)
@@ -69,7 +75,7 @@ function(vantoro_test name)
         return()
     endif()
     add_executable(${name} ${sources})
-    target_link_libraries(${name} PRIVATE ${ARGN} TestSupport GTest::gtest_main VantoroFlags)
+    target_link_libraries(${name} PRIVATE ${ARGN} TestSupport GTest::gtest_main TestFlags)
     target_precompile_headers(${name} REUSE_FROM TestHeaders)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 1800)

@@ -25,7 +25,10 @@ std::string ReadIfThere(const std::filesystem::path& path) {
 std::string ShellWord(const std::string& text) {
     std::string word = "'";
     for (const char c : text) {
-        word += c == '\'' ? "'\\''" : std::string(1, c);
+        if (c == '\'') {
+            word += "'\\'";
+        }
+        word += c;
     }
     return word + "'";
 }
