@@ -21,27 +21,24 @@ struct Profile {
     const char* description;
 };
 
-const std::array<Profile, 4>& Profiles() {
-    static const std::array<Profile, 4> profiles{{
-        {{0, 2, 256, 64, 128, 0.25, 0.005, 0},
-         "Estudo rápido",
-         "Para testar posições de luminárias e ver tendências. Cerca de 10 vezes mais rápido que o "
-         "Projeto; os valores podem variar alguns por cento."},
-        {{1, 2, 1024, 512, 256, 0.15, 0.002, 0},
-         "Projeto",
-         "O uso normal (padrão). Duas reflexões da luz, precisão adequada para dimensionar a "
-         "iluminação."},
-        {{2, 3, 1024, 512, 256, 0.12, 0.001, 0},
-         "Apresentação / final",
-         "Para memorial e entrega: três reflexões da luz, mais luz refletida nos cantos e áreas "
-         "escuras. Cerca de 3 vezes o tempo do Projeto."},
-        // Custom numbers only ever come from editing; asked for by number it is the normal use.
-        {{1, 2, 1024, 512, 256, 0.15, 0.002, 0},
-         "Personalizado",
-         "Parâmetros escolhidos à mão (avançado)."},
-    }};
-    return profiles;
-}
+constexpr std::array<Profile, 4> Profiles{{
+    {{0, 2, 256, 64, 128, 0.25, 0.005, 0},
+     "Estudo rápido",
+     "Para testar posições de luminárias e ver tendências. Cerca de 10 vezes mais rápido que o "
+     "Projeto; os valores podem variar alguns por cento."},
+    {{1, 2, 1024, 512, 256, 0.15, 0.002, 0},
+     "Projeto",
+     "O uso normal (padrão). Duas reflexões da luz, precisão adequada para dimensionar a "
+     "iluminação."},
+    {{2, 3, 1024, 512, 256, 0.12, 0.001, 0},
+     "Apresentação / final",
+     "Para memorial e entrega: três reflexões da luz, mais luz refletida nos cantos e áreas "
+     "escuras. Cerca de 3 vezes o tempo do Projeto."},
+    // Custom numbers only ever come from editing; asked for by number it is the normal use.
+    {{1, 2, 1024, 512, 256, 0.15, 0.002, 0},
+     "Personalizado",
+     "Parâmetros escolhidos à mão (avançado)."},
+}};
 
 // Time relative to "Projeto", fitted to measured runs; not a simulation.
 double RawCost(const EngineSettings& settings) {
@@ -50,14 +47,14 @@ double RawCost(const EngineSettings& settings) {
     }
     const double tolerance = 0.15 / std::max(settings.accuracy, 0.01);
     const double rays = static_cast<double>(settings.divisions) + settings.supersamples;
-    return std::pow(1.8, settings.bounces - 2) * tolerance * tolerance *
+    return std::pow(1.8, settings.bounces - 2.0) * tolerance * tolerance *
            std::sqrt(settings.resolution / 256.0) * std::pow(rays / 1536.0, 0.74);
 }
 
 } // namespace
 
 EngineSettings ProfileSettings(std::uint32_t profile) {
-    return Profiles()[profile < CustomProfile ? profile : DesignProfile].settings;
+    return Profiles[profile < CustomProfile ? profile : DesignProfile].settings;
 }
 
 EngineSettings NormaliseSettings(const EngineSettings& settings) {
@@ -89,11 +86,11 @@ std::uint32_t DetectProfile(const EngineSettings& settings) {
 }
 
 std::string ProfileName(std::uint32_t profile) {
-    return profile <= CustomProfile ? Profiles()[profile].name : "";
+    return profile <= CustomProfile ? Profiles[profile].name : "";
 }
 
 std::string ProfileDescription(std::uint32_t profile) {
-    return profile <= CustomProfile ? Profiles()[profile].description : "";
+    return profile <= CustomProfile ? Profiles[profile].description : "";
 }
 
 std::string EngineSummary(const EngineSettings& settings) {

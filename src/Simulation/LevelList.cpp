@@ -31,8 +31,8 @@ std::string WithDecimalComma(std::string number) {
 } // namespace
 
 const LevelList& DefaultLevels() {
-    static const LevelList levels{50, 100, 150, 200, 300, 500, 750, 1000};
-    return levels;
+    static const LevelList Levels{50, 100, 150, 200, 300, 500, 750, 1000};
+    return Levels;
 }
 
 bool ParseLevels(std::string_view text, LevelList& levels, std::string& error) {

@@ -58,7 +58,10 @@ std::string FormatPreferenceBlock(const PreferenceEntries& entries) {
 
 std::string_view PreferenceValue(const PreferenceEntries& entries, std::string_view key) {
     const auto found = entries.find(key);
-    return found != entries.end() ? std::string_view(found->second) : std::string_view();
+    if (found == entries.end()) {
+        return {};
+    }
+    return found->second;
 }
 
 } // namespace Merivane::Simulation

@@ -24,12 +24,17 @@ std::size_t Count(const std::vector<bool>& bits) {
     return static_cast<std::size_t>(std::count(bits.begin(), bits.end(), true));
 }
 
+std::size_t IndexOf(const CalculationGrid& grid, std::int32_t i, std::int32_t j) {
+    return static_cast<std::size_t>(j) * static_cast<std::size_t>(grid.columns) +
+           static_cast<std::size_t>(i);
+}
+
 bool IsActiveAt(const CalculationGrid& grid, std::int32_t i, std::int32_t j) {
-    return grid.active[static_cast<std::size_t>(j * grid.columns + i)];
+    return grid.active[IndexOf(grid, i, j)];
 }
 
 bool IsTaskAt(const CalculationGrid& grid, std::int32_t i, std::int32_t j) {
-    return grid.task[static_cast<std::size_t>(j * grid.columns + i)];
+    return grid.task[IndexOf(grid, i, j)];
 }
 
 TEST(AutomaticSpacing, FollowsTheAreaOfTheBox) {
@@ -409,10 +414,12 @@ void ReferenceBits(const Polygon2D& polygon, const GridSettings& settings, Calcu
     grid.task.assign(nodes, false);
     grid.narrow = false;
     std::vector<bool> inside(nodes);
+    const auto columns = static_cast<std::size_t>(grid.columns);
     for (std::size_t n = 0; n < nodes; ++n) {
-        const auto columns = static_cast<std::size_t>(grid.columns);
-        const Point2D p{grid.originX + static_cast<double>(n % columns) * grid.stepX,
-                        grid.originY + static_cast<double>(n / columns) * grid.stepY};
+        const std::size_t i = n % columns;
+        const std::size_t j = n / columns;
+        const Point2D p{grid.originX + static_cast<double>(i) * grid.stepX,
+                        grid.originY + static_cast<double>(j) * grid.stepY};
         inside[n] = ReferenceInside(polygon, p);
         if (inside[n]) {
             const double d = ReferenceDistance(polygon, p);

@@ -130,13 +130,14 @@ double ReferenceSample(const CalculationGrid& grid, const std::vector<double>& f
     const double fy = (p.y - grid.originY) / grid.stepY;
     const int i = static_cast<int>(std::floor(fx));
     const int j = static_cast<int>(std::floor(fy));
+    const auto index = [&](int a, int b) {
+        return static_cast<std::size_t>(b) * static_cast<std::size_t>(grid.columns) +
+               static_cast<std::size_t>(a);
+    };
     const auto active = [&](int a, int b) {
-        return a >= 0 && b >= 0 && a < grid.columns && b < grid.rows &&
-               grid.active[static_cast<std::size_t>(b * grid.columns + a)];
+        return a >= 0 && b >= 0 && a < grid.columns && b < grid.rows && grid.active[index(a, b)];
     };
-    const auto f = [&](int a, int b) {
-        return field[static_cast<std::size_t>(b * grid.columns + a)];
-    };
+    const auto f = [&](int a, int b) { return field[index(a, b)]; };
     if (active(i, j) && active(i + 1, j) && active(i, j + 1) && active(i + 1, j + 1)) {
         const double u = fx - i;
         const double v = fy - j;

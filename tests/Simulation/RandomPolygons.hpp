@@ -24,6 +24,7 @@ inline int UniformInt(Random& random, int low, int high) {
 inline std::vector<Simulation::Point2D> StarRing(Random& random, Simulation::Point2D centre,
                                                  double smallest, double largest, int vertices) {
     std::vector<Simulation::Point2D> ring;
+    ring.reserve(static_cast<std::size_t>(vertices));
     for (int k = 0; k < vertices; ++k) {
         const double angle = 6.283185307179586 * (k + Uniform(random, 0.0, 0.9)) / vertices;
         const double radius = Uniform(random, smallest, largest);
@@ -37,6 +38,7 @@ inline std::vector<Simulation::Point2D> StarRing(Random& random, Simulation::Poi
 inline std::vector<Simulation::Point2D> RasterRing(Random& random, int width, int height,
                                                    int vertices) {
     std::vector<Simulation::Point2D> ring;
+    ring.reserve(static_cast<std::size_t>(vertices));
     for (int k = 0; k < vertices; ++k) {
         ring.push_back(
             {0.05 * UniformInt(random, 0, 20 * width), 0.05 * UniformInt(random, 0, 20 * height)});

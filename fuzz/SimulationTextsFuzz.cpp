@@ -1,0 +1,85 @@
+// The first byte chooses the reader: preference block, engine settings, last run or levels.
+// Whatever the bytes, reading ends without a crash, and what is read is written so that it reads
+// back.
+
+#include "Simulation/EngineSettings.hpp"
+#include "Simulation/LastRunRecord.hpp"
+#include "Simulation/LevelList.hpp"
+#include "Simulation/PreferenceBlock.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+using namespace Merivane::Simulation;
+
+namespace {
+
+void Require(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+void ReadPreferences(std::string_view bytes) {
+    const PreferenceEntries entries = ParsePreferenceBlock(PreferenceBlockVersion, bytes);
+    const std::string written = FormatPreferenceBlock(entries);
+    Require(ParsePreferenceBlock(PreferenceBlockVersion, written) == entries);
+}
+
+void ReadEngineSettings(std::string_view bytes) {
+    EngineSettings settings;
+    if (!ParseEngineSettings(bytes, settings)) {
+        Require(settings == ProfileSettings(1));
+        return;
+    }
+    Require(NormaliseSettings(settings) == settings);
+    EngineSettings back;
+    Require(ParseEngineSettings(FormatEngineSettings(settings), back) && back == settings);
+}
+
+void ReadLastRun(std::string_view bytes) {
+    const LastRunRecord record = ParseLastRun(bytes);
+    if (record.valid) {
+        Require(ParseLastRun(FormatLastRun(record)) == record);
+    }
+}
+
+void ReadLevels(std::string_view bytes) {
+    LevelList levels;
+    std::string error;
+    if (!ParseLevels(bytes, levels, error)) {
+        Require(!error.empty());
+        return;
+    }
+    LevelList back;
+    Require(ParseLevels(FormatLevels(levels), back, error) && back == levels);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size == 0) {
+        return 0;
+    }
+    const std::string_view bytes(reinterpret_cast<const char*>(data) + 1, size - 1);
+    switch (data[0]) {
+    case 'p':
+        ReadPreferences(bytes);
+        break;
+    case 'e':
+        ReadEngineSettings(bytes);
+        break;
+    case 'r':
+        ReadLastRun(bytes);
+        break;
+    case 'l':
+        ReadLevels(bytes);
+        break;
+    default:
+        break;
+    }
+    return 0;
+}
