@@ -15,7 +15,7 @@ double TurnAngle(Point2D previous, Point2D at, Point2D next) {
 
 /// Which way goes on at a node with two ways out. Of equal turns, and where neither is a number,
 /// the first.
-std::uint32_t LeftmostWay(const std::vector<MeshVertex>& vertices, std::uint32_t previous,
+std::uint32_t LeftmostWay(std::span<const MeshVertex> vertices, std::uint32_t previous,
                           std::uint32_t at) {
     const auto& next = vertices[at].next;
     if (next[0] == NoSlot || next[1] == NoSlot) {
@@ -24,8 +24,8 @@ std::uint32_t LeftmostWay(const std::vector<MeshVertex>& vertices, std::uint32_t
     double best = -1e9;
     std::uint32_t chosen = 0;
     for (std::uint32_t way = 0; way < 2; ++way) {
-        const Point2D& to = vertices[(next[way] & ~PinchFlag) >> 1U].point;
-        const double angle = TurnAngle(vertices[previous].point, vertices[at].point, to);
+        const Point2D to = vertices[(next[way] & ~PinchFlag) >> 1U].Point();
+        const double angle = TurnAngle(vertices[previous].Point(), vertices[at].Point(), to);
         if (angle > best) {
             best = angle;
             chosen = way;
@@ -36,12 +36,12 @@ std::uint32_t LeftmostWay(const std::vector<MeshVertex>& vertices, std::uint32_t
 
 /// Follows the boundary that leaves `start` by `way`. Every way that is taken is taken away, so no
 /// boundary is found twice.
-void TraceRing(std::vector<MeshVertex>& vertices, std::uint32_t start, std::uint32_t way,
+void TraceRing(std::span<MeshVertex> vertices, std::uint32_t start, std::uint32_t way,
                std::vector<Point2D>& points) {
     std::uint32_t at = start;
     do {
         MeshVertex& vertex = vertices[at];
-        points.push_back(vertex.point);
+        points.push_back(vertex.Point());
         const std::uint32_t slot = vertex.next[way];
         vertex.next[way] = NoSlot;
         const std::uint32_t previous = at;
@@ -55,24 +55,21 @@ void TraceRing(std::vector<MeshVertex>& vertices, std::uint32_t start, std::uint
 
 } // namespace
 
-BandRings TraceBandRings(ContourMesh mesh) {
-    std::vector<MeshVertex>& vertices = mesh.vertices;
-    BandRings result;
-    // Every crossing stands on the boundary of two bands.
-    result.points.reserve(2 * vertices.size());
+void ForEachBandRing(ContourMesh mesh, const BandRingVisitor& visit) {
+    const std::span<MeshVertex> vertices = mesh.All();
+    std::vector<Point2D> ring;
     for (std::uint32_t v = 0; v < vertices.size(); ++v) {
+        const MeshVertex& vertex = vertices[v];
         for (std::uint32_t way = 0; way < 2; ++way) {
-            if (vertices[v].next[way] == NoSlot) {
+            if (vertex.next[way] == NoSlot) {
                 continue;
             }
-            const bool aboveLevel = vertices[v].key != NoKey && way == HighOnLeft;
-            const std::size_t first = result.points.size();
-            TraceRing(vertices, v, way, result.points);
-            result.rings.push_back(
-                {vertices[v].level + (aboveLevel ? 1U : 0U), first, result.points.size() - first});
+            const bool aboveLevel = vertex.key != NoKey && way == HighOnLeft;
+            ring.clear();
+            TraceRing(vertices, v, way, ring);
+            visit(vertex.level + (aboveLevel ? 1U : 0U), ring);
         }
     }
-    return result;
 }
 
 } // namespace Merivane::Simulation

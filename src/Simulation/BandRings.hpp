@@ -3,31 +3,18 @@
 #include "Simulation/ContourMesh.hpp"
 
 #include <cstddef>
-#include <cstdint>
-#include <span>
+#include <functional>
 #include <vector>
 
 namespace Merivane::Simulation {
 
-/// The closed boundaries of bands, the band always on their left.
-struct BandRings {
-    struct Ring {
-        std::uint32_t band = 0;
-        std::size_t first = 0; ///< index into `points`
-        std::size_t count = 0;
-    };
+/// Takes one closed boundary of a band [m], the band on its left. The ring is the visitor's to
+/// change.
+using BandRingVisitor = std::function<void(std::size_t band, std::vector<Point2D>& ring)>;
 
-    std::vector<Point2D> points; ///< [m], ring after ring
-    std::vector<Ring> rings;     ///< those of one band in the order of their first vertices
-
-    /// The vertices of a ring.
-    std::span<const Point2D> PointsOf(const Ring& ring) const {
-        return std::span(points).subspan(ring.first, ring.count);
-    }
-};
-
-/// Follows every boundary of a mesh built with `MeshBorder::Corners`. Where two boundaries of a
-/// band touch in a node they are kept apart by the leftmost turn.
-BandRings TraceBandRings(ContourMesh mesh);
+/// Follows every boundary of every band of a mesh built with `MeshBorder::Corners`; those of one
+/// band in the order of their first vertices. Where two boundaries of a band touch in a node they
+/// are kept apart by the leftmost turn.
+void ForEachBandRing(ContourMesh mesh, const BandRingVisitor& visit);
 
 } // namespace Merivane::Simulation

@@ -39,25 +39,22 @@ double SignedArea(std::span<const Point2D> ring) {
     return twice / 2;
 }
 
-std::vector<BandParts> CollectParts(const BandRings& rings, std::size_t bandCount) {
+std::vector<BandParts> CollectParts(ContourMesh mesh, std::size_t bandCount) {
     std::vector<BandParts> bands(bandCount);
-    std::vector<Point2D> points;
-    for (const BandRings::Ring& ring : rings.rings) {
-        const auto raw = rings.PointsOf(ring);
-        points.assign(raw.begin(), raw.end());
-        points = SimplifyRing(std::move(points));
-        if (points.size() < 3) {
-            continue;
+    ForEachBandRing(std::move(mesh), [&](std::size_t k, std::vector<Point2D>& ring) {
+        ring = SimplifyRing(std::move(ring));
+        if (ring.size() < 3) {
+            return;
         }
-        BandParts& band = bands[ring.band];
-        const double area = SignedArea(points);
+        BandParts& band = bands[k];
+        const double area = SignedArea(ring);
         if (area > 0) {
-            band.polygons.push_back({{points.begin(), points.end()}, {}});
+            band.polygons.push_back({{ring.begin(), ring.end()}, {}});
             band.areas.push_back(area);
         } else if (area < 0) {
-            band.holes.emplace_back(points.begin(), points.end());
+            band.holes.emplace_back(ring.begin(), ring.end());
         }
-    }
+    });
     return bands;
 }
 
@@ -99,8 +96,8 @@ std::vector<ColorBand> BuildBands(const GridField& field, const LevelList& level
     if (!HasCells(field)) {
         return result;
     }
-    const BandRings rings = TraceBandRings(BuildContourMesh(field, levels, MeshBorder::Corners));
-    std::vector<BandParts> bands = CollectParts(rings, levels.size() + 1);
+    std::vector<BandParts> bands =
+        CollectParts(BuildContourMesh(field, levels, MeshBorder::Corners), levels.size() + 1);
     constexpr double infinity = std::numeric_limits<double>::infinity();
     for (std::size_t k = 0; k < bands.size(); ++k) {
         if (bands[k].polygons.empty()) {

@@ -5,7 +5,10 @@
 #include "Simulation/LevelList.hpp"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <span>
 #include <vector>
 
 namespace Merivane::Simulation {
@@ -25,13 +28,16 @@ enum MeshWay : std::uint32_t {
 
 /// A place that curves or the edges of bands run through: a crossing of one level with one edge of
 /// the grid, or a grid node on the edge of the area that has values ("corner").
+/// Without defaults, so that room for many costs nothing.
 struct MeshVertex {
-    Point2D point; ///< [m]
-    std::array<std::uint32_t, 2> next{NoSlot,
-                                      NoSlot}; ///< by `MeshWay`; a corner's ways out are in
-                                               ///< ascending order of the vertices they reach
-    std::uint32_t level = 0; ///< index of the level; of a corner the band it lies in
-    std::uint32_t key = 0;   ///< edge key; of a corner `NoKey`
+    double x; ///< [m]
+    double y;
+    std::array<std::uint32_t, 2> next; ///< by `MeshWay`; a corner's ways out are in ascending
+                                       ///< order of the vertices they reach
+    std::uint32_t level;               ///< index of the level; of a corner the band it lies in
+    std::uint32_t key;                 ///< edge key; of a corner `NoKey`
+
+    Point2D Point() const { return {x, y}; }
 };
 
 /// Key of a vertex that is a corner. A grid edge has the key 2n when it runs from node n to the
@@ -45,8 +51,12 @@ enum class MeshBorder { None, Corners };
 /// order in which a walk over the cells meets them (rows ascending, columns ascending): in a cell
 /// band by band, in a band along the cell's perimeter.
 struct ContourMesh {
-    std::vector<MeshVertex> vertices;
+    std::unique_ptr<MeshVertex[]> vertices;
+    std::uint32_t count = 0;           ///< of vertices
+    std::size_t capacity = 0;          ///< room for vertices
     std::vector<std::int32_t> reached; ///< per node: how many levels its value reaches, -1 for NaN
+
+    std::span<MeshVertex> All() { return {vertices.get(), count}; }
 };
 
 /// True when the field can be contoured: it has a grid of at least 2 x 2 nodes and a value for each

@@ -28,7 +28,7 @@ struct OpenEnd {
 };
 
 /// Both ends of every open curve, by level, then key. Every crossing is linked at least once.
-std::vector<OpenEnd> FindOpenEnds(const std::vector<MeshVertex>& vertices) {
+std::vector<OpenEnd> FindOpenEnds(std::span<const MeshVertex> vertices) {
     std::vector<OpenEnd> ends;
     for (std::uint32_t v = 0; v < vertices.size(); ++v) {
         const auto& next = vertices[v].next;
@@ -41,13 +41,13 @@ std::vector<OpenEnd> FindOpenEnds(const std::vector<MeshVertex>& vertices) {
 }
 
 /// Follows one way from `start` until it ends or comes back, and marks what it meets as used.
-IsoCurve Walk(std::vector<MeshVertex>& vertices, std::uint32_t start, MeshWay way, double level,
+IsoCurve Walk(std::span<MeshVertex> vertices, std::uint32_t start, MeshWay way, double level,
               std::vector<Point2D>& points) {
     points.clear();
     std::uint32_t slot = 2 * start + way;
     while (slot != NoSlot) {
         MeshVertex& vertex = vertices[slot >> 1U];
-        points.push_back(vertex.point);
+        points.push_back(vertex.Point());
         if (vertex.level == UsedLevel) {
             break;
         }
@@ -77,7 +77,7 @@ std::vector<IsoCurve> ExtractIsolines(const GridField& field, const LevelList& l
         return curves;
     }
     ContourMesh mesh = BuildContourMesh(field, levels, MeshBorder::None);
-    std::vector<MeshVertex>& vertices = mesh.vertices;
+    const std::span<MeshVertex> vertices = mesh.All();
     std::vector<std::vector<IsoCurve>> byLevel(levels.size());
     std::vector<Point2D> points;
     for (const OpenEnd& end : FindOpenEnds(vertices)) {
