@@ -207,11 +207,12 @@ TEST_F(FieldData, PassesTheRealIes2radWithItsKnownOpening) {
 
 TEST_F(FieldData, NeverBreaksTheReaderWhenCut) {
     for (const FieldFile& f : files) {
+        const std::string_view bytes = f.bytes;
         // Every length of a short file, and some hundreds of a long one.
         const std::size_t step = 1 + f.bytes.size() / 600;
         for (std::size_t length = 0; length < f.bytes.size(); length += step) {
             IesFile file;
-            const IesReadResult result = ReadIes(std::string_view(f.bytes).substr(0, length), file);
+            const IesReadResult result = ReadIes(bytes.substr(0, length), file);
             ASSERT_EQ(result.error.empty(), result.ok) << f.name << " " << length;
         }
     }

@@ -5,12 +5,15 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string_view>
 
 namespace Merivane::Tests {
 
 using Photometry::IesFile;
 
 namespace {
+
+constexpr std::string_view Letters = "AZ az09[]=-.,\xC3\xA7\xB0(\")";
 
 std::string Texts(const std::vector<double>& values) {
     std::string text;
@@ -30,10 +33,9 @@ std::vector<double> Ascending(std::mt19937_64& random, std::size_t count) {
 }
 
 std::string RandomWord(std::mt19937_64& random) {
-    static const std::string letters = "AZ az09[]=-.,\xC3\xA7\xB0(\")";
     std::string word = "w";
     for (std::size_t i = random() % 12; i > 0; --i) {
-        word += letters[random() % letters.size()];
+        word += Letters[random() % Letters.size()];
     }
     return word + "w";
 }

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <limits>
+#include <set>
 
 namespace Merivane::Photometry {
 namespace {
@@ -230,15 +231,19 @@ TEST(WithKnownOpening, PassesTheRealIes2radWithEverySignAndZero) {
     ASSERT_NE(ies2rad.Convert(FileWith(3, {0, 0, -0.05}), complaint), 0);
     ASSERT_NE(complaint.find("illegal source dimensions"), std::string::npos) << complaint;
 
+    std::set<std::string> converted; // many openings become the same one
     for (const double width : GridValues) {
         for (const double length : GridValues) {
             for (const double height : GridValues) {
                 for (const int edition : {2, 3}) {
                     const IesFile known =
                         WithKnownOpening(FileWith(edition, {width, length, height}), warning);
-                    const int status = ies2rad.Convert(known, complaint);
-                    EXPECT_EQ(status, 0) << width << " " << length << " " << height << "\n"
-                                         << complaint;
+                    if (!converted.insert(WriteIes(known)).second) {
+                        continue;
+                    }
+                    EXPECT_EQ(ies2rad.Convert(known, complaint), 0)
+                        << width << " " << length << " " << height << "\n"
+                        << complaint;
                     // Nothing is left for ies2rad to replace behind the user's back.
                     EXPECT_EQ(complaint.find("makeshape"), std::string::npos)
                         << width << " " << length << " " << height << "\n"

@@ -28,12 +28,17 @@ bool SetInstalledLocale() {
     return false;
 }
 
-// Machines for tests often have no locale but "C"; its sources are there more often.
-bool SetLocaleMadeForTheTest() {
-    const TemporaryFolder folder;
+// Machines for tests often have no locale but "C"; its sources are there more often. Made once.
+bool MakeLocale(const TemporaryFolder& folder) {
     const std::string made = (folder.Path() / "pt_BR.UTF-8").string();
     const std::string command = "localedef -i pt_BR -f UTF-8 '" + made + "' >/dev/null 2>&1";
-    if (std::system(command.c_str()) != 0) {
+    return std::system(command.c_str()) == 0;
+}
+
+bool SetLocaleMadeForTheTest() {
+    static TemporaryFolder folder;
+    static bool made = MakeLocale(folder);
+    if (!made) {
         return false;
     }
     ::setenv("LOCPATH", folder.Path().c_str(), 1);

@@ -34,10 +34,14 @@ TEST(TruncateUtf8, CutsOnlyWhatIsTooLongAndNeverInsideACharacter) {
 }
 
 TEST(TruncateUtf8, KeepsA255ByteTextAndCutsATwoByteCharacterThatCrosses) {
-    const std::string full(255, 'a');
-    EXPECT_EQ(TruncateUtf8(full, 255), full);
-    EXPECT_EQ(TruncateUtf8(full + "b", 255), full);
-    EXPECT_EQ(TruncateUtf8(std::string(254, 'a') + "\xC3\xA7", 255), std::string(254, 'a'));
+    std::string text(255, 'a');
+    EXPECT_EQ(TruncateUtf8(text, 255).size(), 255U);
+    text.push_back('b');
+    EXPECT_EQ(TruncateUtf8(text, 255), std::string(255, 'a'));
+    text[254] = '\xC3';
+    text[255] = '\xA7';
+    EXPECT_EQ(TruncateUtf8(text, 255), std::string(254, 'a'));
+    EXPECT_EQ(TruncateUtf8(text, 256), text);
 }
 
 // Header texts reach this in unknown encodings; a text of many bytes such as 0xB0 must not come
