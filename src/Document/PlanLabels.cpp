@@ -148,6 +148,7 @@ void AppendValues(Drawing::Layer& layer, TextSpace& space, const PlanSheet& shee
                   const PlanZone& zone, const PlanStyle& style) {
     const Simulation::CalculationGrid& grid = zone.grid;
     const Simulation::GridField field = MakeGridField(grid, zone.values);
+    const TextSpace others = space; // values of one Zone keep clear of each other by their steps
     const std::int32_t stepX = NodeStep(sheet, style.valueSpacingX, grid.stepX, WidestValue(field));
     const std::int32_t stepY = NodeStep(sheet, style.valueSpacingY, grid.stepY, ValueHeight);
     for (std::int32_t j = (grid.rows - 1) % stepY / 2; j < grid.rows; j += stepY) {
@@ -161,8 +162,11 @@ void AppendValues(Drawing::Layer& layer, TextSpace& space, const PlanSheet& shee
             TextRun text = CenteredText(Simulation::FormatDecimal(value, 0), ValueHeight);
             text.position =
                 OnPaper(sheet, {grid.originX + i * grid.stepX, grid.originY + j * grid.stepY});
-            space.texts.push_back(Drawing::TextBounds(text));
-            layer.elements.emplace_back(text);
+            const Drawing::Box box = Drawing::TextBounds(text);
+            if (IsFreeOfTexts(others, box)) {
+                space.texts.push_back(box);
+                layer.elements.emplace_back(text);
+            }
         }
     }
 }

@@ -10,7 +10,8 @@
 namespace Merivane::Document {
 
 /// Writes values at grid nodes, with 0 decimals, centred in the grid. Columns and rows stand as far
-/// apart as the style asks for, farther where the texts would touch at the sheet's scale.
+/// apart as the style asks for, farther where the texts would touch at the sheet's scale. A value
+/// that would cover one of a neighbouring Zone is left out.
 void AppendValues(Drawing::Layer& layer, TextSpace& space, const PlanSheet& sheet,
                   const PlanZone& zone, const PlanStyle& style);
 

@@ -96,7 +96,7 @@ SheetBlock BuildNoteBlock(const std::string& note) {
     SheetBlock block;
     AppendLines(block, WrapText(note, ColumnWidth, RemarkHeight), RemarkHeight, 1.75 * RemarkHeight,
                 TextWeight::Normal, Muted);
-    block.height += 0.5;
+    block.height += 0.7; // letters that reach below the last line
     return block;
 }
 

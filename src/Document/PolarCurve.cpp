@@ -165,8 +165,8 @@ void AppendCircleLabels(Drawing::Layer& layer, const Plot& plot) {
     const bool under = plot.upper && !plot.lower;
     for (int k = 1; k <= circles; ++k) {
         TextRun label =
-            SheetText(ShortNumber(k * plot.step), plot.center.x - Radius * k / circles + 0.6,
-                      plot.center.y + (under ? -0.9 : 0.9), 1.7);
+            FittingText(ShortNumber(k * plot.step), plot.center.x - Radius * k / circles + 0.6,
+                        plot.center.y + (under ? -0.9 : 0.9), Radius / circles - 1.2, {1.7, 0.6});
         label.vertical = under ? VerticalAnchor::Top : VerticalAnchor::Base;
         label.halo = 0.4;
         layer.elements.emplace_back(label);
