@@ -64,7 +64,7 @@ std::size_t EditDistance(std::string_view a, std::string_view b) {
 /// " (talvez \"altura\")" where a known key is only a slip away, else nothing.
 std::string Hint(std::string_view key, std::initializer_list<Field> fields) {
     constexpr std::size_t longest = 40; // no known key is near so long a text
-    std::size_t best = std::max<std::size_t>(2, key.size() / 3) + 1;
+    std::size_t best = std::max<std::size_t>(1, key.size() / 3) + 1;
     std::string_view nearest;
     if (key.size() > longest) {
         return "";

@@ -59,7 +59,8 @@ SurfaceFlatness MeasureFlatness(const std::vector<Point3D>& vertices) {
         extent = std::max(extent, 2.0 * Length(off));
         const double along = off.x * normal.x + off.y * normal.y + off.z * normal.z;
         const double deviation = length > 0.0 ? std::abs(along) / length : 0.0;
-        if (deviation > flatness.deviation) {
+        // Of vertices that stray alike, as those of a warped quadrilateral do, the first.
+        if (deviation > flatness.deviation + 1e-9) {
             flatness.deviation = deviation;
             flatness.worstVertex = i;
         }

@@ -1,0 +1,121 @@
+#include "Document/SceneBuild.hpp"
+
+#include "SceneTexts.hpp"
+
+#include <gtest/gtest.h>
+
+namespace Merivane::Document {
+
+using Tests::ReadScene;
+using Tests::SceneText;
+using Tests::ZoneText;
+
+namespace {
+
+BuiltScene Build(const SceneDocument& document) {
+    BuiltScene built;
+    std::string error;
+    EXPECT_TRUE(BuildScene(document, built, error)) << error;
+    return built;
+}
+
+std::string BuildError(const SceneDocument& document) {
+    BuiltScene built;
+    std::string error;
+    return BuildScene(document, built, error) ? "" : error;
+}
+
+} // namespace
+
+TEST(SceneBuild, LaysTheWorkPlaneOfAZone) {
+    const BuiltScene built = Build(ReadScene(ZoneText(
+        R"("contorno": [[0, 0], [4, 0], [4, 3], [0, 3]], "altura": 3, "piso": 6,
+           "espacamento": 0.5)")));
+    ASSERT_EQ(built.scene.sensorPlanes.size(), 1U);
+    const Simulation::SensorPlane& plane = built.scene.sensorPlanes[0];
+    EXPECT_EQ(plane.name, "Sala");
+    EXPECT_FALSE(plane.vertical);
+    EXPECT_FALSE(plane.facesDown);
+    EXPECT_DOUBLE_EQ(plane.grid.z, 6.75);
+    EXPECT_EQ(plane.grid.columns, 9);
+    EXPECT_EQ(plane.grid.rows, 7);
+    ASSERT_EQ(built.planes.size(), 1U);
+    EXPECT_EQ(built.planes[0].kind, PlaneKind::WorkPlane);
+}
+
+TEST(SceneBuild, AddsWallsCeilingAndFloorWhereTheyAreAskedFor) {
+    const BuiltScene built = Build(ReadScene(R"({"formato": 1, "zonas": [
+        {"nome": "A", "altura": 3, "contorno": [[0, 0], [4, 0], [4, 3], [0, 3]],
+         "calcularParedes": true, "calcularTeto": true, "calcularPiso": true},
+        {"nome": "B", "altura": 3, "contorno": [[5, 0], [9, 0], [9, 3]], "calcularTeto": true}]})"));
+    struct Expected {
+        std::string name;
+        std::size_t zone;
+        PlaneKind kind;
+        int wall;
+    };
+    const std::vector<Expected> expected = {
+        {"A", 0, PlaneKind::WorkPlane, 0},     {"A parede 1", 0, PlaneKind::Wall, 1},
+        {"A parede 2", 0, PlaneKind::Wall, 2}, {"A parede 3", 0, PlaneKind::Wall, 3},
+        {"A parede 4", 0, PlaneKind::Wall, 4}, {"A teto", 0, PlaneKind::Ceiling, 0},
+        {"A piso", 0, PlaneKind::Floor, 0},    {"B", 1, PlaneKind::WorkPlane, 0},
+        {"B teto", 1, PlaneKind::Ceiling, 0}};
+    ASSERT_EQ(built.planes.size(), expected.size());
+    ASSERT_EQ(built.scene.sensorPlanes.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        SCOPED_TRACE(expected[i].name);
+        EXPECT_EQ(built.scene.sensorPlanes[i].name, expected[i].name);
+        EXPECT_EQ(built.planes[i].zone, expected[i].zone);
+        EXPECT_EQ(built.planes[i].kind, expected[i].kind);
+        EXPECT_EQ(built.planes[i].wall, expected[i].wall);
+        EXPECT_GT(Simulation::ActiveNodeCount(built.scene.sensorPlanes[i].grid), 0U);
+    }
+    EXPECT_TRUE(built.scene.sensorPlanes[1].vertical);
+    EXPECT_EQ(built.scene.sensorPlanes[1].normalY, 1.0); // the wall along y = 0 looks into the room
+    EXPECT_TRUE(built.scene.sensorPlanes[5].facesDown);
+    EXPECT_DOUBLE_EQ(built.scene.sensorPlanes[5].grid.z, 2.99);
+    EXPECT_DOUBLE_EQ(built.scene.sensorPlanes[6].grid.z, 0.01);
+}
+
+TEST(SceneBuild, CarriesTheRestOfTheDocument) {
+    const BuiltScene built = Build(ReadScene(SceneText(
+        R"("materiais": [{"nome": "M", "refletancia": 0.3}],
+           "superficies": [{"material": "M", "vertices": [[0, 0, 0], [1, 0, 0], [0, 1, 0]]}],
+           "luminarias": [{"ies": "a.ies", "posicao": [1, 1, 3]}],
+           "pontos": [{"posicao": [1, 1, 1]}])")));
+    EXPECT_EQ(built.scene.materials.size(), 1U);
+    EXPECT_EQ(built.scene.surfaces.size(), 1U);
+    EXPECT_EQ(built.scene.luminaires.size(), 1U);
+    EXPECT_EQ(built.scene.points.size(), 1U);
+}
+
+TEST(SceneBuild, ANarrowZoneIsNotEmpty) {
+    const BuiltScene built = Build(
+        ReadScene(ZoneText(R"("contorno": [[0, 0], [4, 0], [4, 0.03], [0, 0.03]], "altura": 3)")));
+    EXPECT_TRUE(built.scene.sensorPlanes[0].grid.narrow);
+    EXPECT_GT(Simulation::ActiveNodeCount(built.scene.sensorPlanes[0].grid), 0U);
+}
+
+TEST(SceneBuild, RefusesAZoneWithoutAPoint) {
+    // Its lattice has four nodes, the corners of the box around the diamond.
+    EXPECT_EQ(BuildError(ReadScene(R"({"formato": 1, "zonas": [
+        {"nome": "Sala", "altura": 3, "contorno": [[0, 0], [4, 0], [4, 4], [0, 4]]},
+        {"nome": "Losango", "altura": 3, "espacamento": 100,
+         "contorno": [[2, 0], [4, 2], [2, 4], [0, 2]]}]})")),
+              "zonas[1] (\"Losango\"): a Zona está vazia: nenhum ponto de cálculo cabe no contorno "
+              "(diminua o espacamento)");
+}
+
+TEST(SceneBuild, RefusesALatticeOfMoreThanTwentyMillionNodes) {
+    EXPECT_EQ(BuildError(ReadScene(ZoneText(
+                  R"("contorno": [[0, 0], [100, 0], [100, 100], [0, 100]], "altura": 3,
+                     "espacamento": 0.02, "afastamento": 0)"))),
+              "zonas[0] (\"Sala\"): plano de trabalho com 25010001 nós; espera-se no máximo "
+              "20000000 (aumente o espacamento)");
+    EXPECT_EQ(BuildError(ReadScene(ZoneText(
+                  R"("contorno": [[0, 0], [90000, 0], [90000, 100], [0, 100]], "altura": 1000,
+                     "espacamento": 100, "afastamento": 0, "calcularParedes": true)"))),
+              "zonas[0] (\"Sala\"): parede com 360182001 nós; espera-se no máximo 20000000");
+}
+
+} // namespace Merivane::Document
