@@ -38,7 +38,7 @@ std::shared_ptr<CLI::Formatter> PortugueseHelp() {
     formatter->label("OPTIONS", "OPÇÕES");
     formatter->label("Positionals", "Argumentos");
     formatter->label("SUBCOMMAND", "COMANDO");
-    formatter->label("REQUIRED", "(obrigatório)");
+    formatter->label("REQUIRED", "(exigido)"); // columns are counted in bytes: no accent
     formatter->column_width(34);
     return formatter;
 }
@@ -84,7 +84,9 @@ CLI::App* AddSimulate(CLI::App& app, RawLine& line) {
         app.add_subcommand("simular", "Calcula a luz de uma cena e desenha as plantas");
     Prepare(*command);
     SimulateArguments& arguments = line.simulate;
-    command->add_option("CENA", arguments.sceneFile, "Documento da cena (JSON)")->required();
+    command->add_option("CENA", arguments.sceneFile, "Documento da cena (JSON)")
+        ->required()
+        ->type_name("");
     command->add_option("--saida", arguments.outputFolder, "Pasta dos resultados")
         ->required()
         ->type_name("PASTA");
@@ -112,7 +114,9 @@ CLI::App* AddSimulate(CLI::App& app, RawLine& line) {
 CLI::App* AddIes(CLI::App& app, RawLine& line) {
     CLI::App* command = app.add_subcommand("ies", "Mostra o que arquivos IES contêm");
     Prepare(*command);
-    command->add_option("ARQUIVO", line.ies.files, "Arquivos IES (LM-63)")->required();
+    command->add_option("ARQUIVO", line.ies.files, "Arquivos IES (LM-63)")
+        ->required()
+        ->type_name("");
     command->add_flag("--curva", line.ies.curve,
                       "Grava a curva polar de cada arquivo como PNG (NOME-curva.png)");
     command->add_option("--saida", line.ies.outputFolder, "Pasta das curvas (a atual)")
@@ -128,13 +132,16 @@ std::string Before(const std::string& text, std::string_view mark) {
 /// What CLI11 refused, in Portuguese. Its messages begin with the name of the option.
 std::string Translate(const CLI::ParseError& refusal, const CLI::App& app) {
     const std::string text = refusal.what();
-    if (dynamic_cast<const CLI::ExtrasError*>(&refusal) != nullptr) {
-        const std::vector<std::string> remaining = app.remaining(true);
-        return "argumento desconhecido: " + (remaining.empty() ? text : remaining.front());
+    const std::vector<std::string> remaining = app.remaining(true);
+    if (dynamic_cast<const CLI::ExtrasError*>(&refusal) != nullptr && !remaining.empty()) {
+        return "argumento desconhecido: " + remaining.front();
     }
     if (dynamic_cast<const CLI::RequiredError*>(&refusal) != nullptr) {
         const std::string name = Before(text, " is required");
-        return name == "A subcommand" ? "falta o comando" : "falta " + name;
+        if (name != "A subcommand") {
+            return "falta " + name;
+        }
+        return remaining.empty() ? "falta o comando" : "comando desconhecido: " + remaining.front();
     }
     if (text.find("At Most") != std::string::npos) {
         return Before(text, ":") + ": só pode aparecer uma vez";

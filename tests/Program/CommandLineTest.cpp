@@ -13,7 +13,7 @@ TEST(CommandLine, RefusesWrongUseWithStatus2AndOneSentence) {
     const std::string simulateHint = ".\nVeja \"vantoro simular --ajuda\".\n";
     const Case cases[] = {
         {{}, "vantoro: falta o comando" + hint},
-        {{"calular"}, "vantoro: argumento desconhecido: calular" + hint},
+        {{"calular"}, "vantoro: comando desconhecido: calular" + hint},
         {{"simular"}, "vantoro: falta CENA" + simulateHint},
         {{"simular", "a.json"}, "vantoro: falta --saida" + simulateHint},
         {{"simular", "a.json", "--saida"}, "vantoro: --saida: falta o valor" + simulateHint},

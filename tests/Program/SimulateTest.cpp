@@ -86,8 +86,7 @@ TEST(Simulate, TellsTheStagesAsLinesWhereThereIsNoTerminal) {
     const SampleRun run;
     const ProgramEnd end = RunVantoro(run.Arguments());
     EXPECT_EQ(end.error, "Preparando a cena (luminárias e geometria)\nPontos de cálculo (" +
-                             std::to_string(13 * 9 + 1) +
-                             ")\nObservadores (UGR)\n");
+                             std::to_string(13 * 9 + 1) + ")\nObservadores (UGR)\n");
 }
 
 TEST(Simulate, IsSilentWhenAskedTo) {
