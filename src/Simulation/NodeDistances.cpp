@@ -128,7 +128,8 @@ void FillBlock(const DistanceField& field, const NodeBlock& block,
 
 // Writes `value` to the nodes of a row that `ring` encloses by the even-odd rule. A crossing at x
 // counts for every node left of x, a run of nodes from the start of the row; `ends` are the ends of
-// these runs. A node is enclosed where an odd number of runs reach beyond it.
+// these runs. A node is enclosed where an odd number of runs reach beyond it; a closed ring crosses
+// a height an even number of times.
 void MarkEnclosed(const std::vector<Point2D>& ring, double y, const std::vector<double>& nodes,
                   std::vector<char>& row, char value) {
     std::vector<std::size_t> ends;
@@ -138,14 +139,9 @@ void MarkEnclosed(const std::vector<Point2D>& ring, double y, const std::vector<
         if (!CrossesHeight(from, to, y)) {
             continue;
         }
-        const double x = CrossingX(from, to, y);
-        if (!std::isnan(x)) {
-            ends.push_back(static_cast<std::size_t>(
-                std::lower_bound(nodes.begin(), nodes.end(), x) - nodes.begin()));
-        }
-    }
-    if (ends.size() % 2 != 0) {
-        ends.push_back(0);
+        const double x = CrossingX(from, to, y); // what is no number ends a run of no nodes
+        ends.push_back(static_cast<std::size_t>(std::lower_bound(nodes.begin(), nodes.end(), x) -
+                                                nodes.begin()));
     }
     std::sort(ends.begin(), ends.end());
     for (std::size_t k = 0; k < ends.size(); k += 2) {

@@ -57,7 +57,7 @@ double Cross(Point2D a, Point2D b) {
 constexpr double VertexTolerance = 1e-9;
 
 // Appends where the segment from `a` along the unit vector `direction` meets an edge. An edge that
-// lies along the segment gives both its ends.
+// lies along the segment gives its first end; the other one is that of the next edge.
 void AppendCrossings(const Edge2D& edge, Point2D a, Point2D direction, double length,
                      std::vector<double>& distances) {
     const auto append = [&](double distance) {
@@ -72,9 +72,7 @@ void AppendCrossings(const Edge2D& edge, Point2D a, Point2D direction, double le
 
     if (std::abs(slope) <= 1e-12 * edgeLength) {
         if (std::abs(Cross(direction, toStart)) <= VertexTolerance) {
-            const double start = toStart.x * direction.x + toStart.y * direction.y;
-            append(start);
-            append(start + span.x * direction.x + span.y * direction.y);
+            append(toStart.x * direction.x + toStart.y * direction.y);
         }
         return;
     }
