@@ -1,0 +1,91 @@
+// Whatever the bytes of a scene document, reading ends without a crash: in one sentence that can be
+// shown, or in a record whose scene, tables, results and plans can be built.
+
+#include "Catalog/Json.hpp"
+#include "Document/PlanAssembly.hpp"
+#include "Document/ResultDocument.hpp"
+#include "Document/ResultTable.hpp"
+#include "Document/SceneBuild.hpp"
+#include "Document/SceneDocument.hpp"
+#include "Document/ShownText.hpp"
+#include "Simulation/PolygonGeometry.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+using namespace Merivane;
+
+namespace {
+
+void Require(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+bool LoadIes(const std::string& path, std::string& bytes) {
+    bytes = "IESNA:LM-63-2002\n[LUMCAT] " + path +
+            "\nTILT=NONE\n1 1000 1 3 1 1 2 0.1 0.2 0\n1 1 25\n0 90 180\n0\n1 1 1\n";
+    return path != "falta.ies";
+}
+
+/// Large rooms are as valid as small ones, but laying their points is not what is tried here.
+bool IsSmall(const Document::SceneDocument& document) {
+    double nodes = 0.0;
+    for (const Document::DocumentZone& zone : document.zones) {
+        const Simulation::Bounds2D bounds = Simulation::OuterBounds(zone.outline);
+        nodes += Simulation::GridNodeCount(zone.outline, zone.grid);
+        nodes += (bounds.maximum.x - bounds.minimum.x + zone.height) *
+                 (bounds.maximum.y - bounds.minimum.y + zone.height);
+    }
+    return nodes < 20000.0;
+}
+
+Simulation::SimulationResult DarkResult(const Document::BuiltScene& built) {
+    Simulation::SimulationResult result;
+    for (const Simulation::SensorPlane& plane : built.scene.sensorPlanes) {
+        Simulation::ZoneResult zone{plane.name, {}, {}};
+        zone.illuminance.assign(Simulation::ActiveNodeCount(plane.grid), 0.0);
+        result.zones.push_back(zone);
+    }
+    result.pointIlluminance.assign(built.scene.points.size(), 0.0);
+    result.pointDirectIlluminance = result.pointIlluminance;
+    return result;
+}
+
+void BuildAll(const Document::SceneDocument& document) {
+    Document::BuiltScene built;
+    std::string error;
+    if (!Document::BuildScene(document, built, error)) {
+        Require(!error.empty() && Document::IsPlainText(error));
+        return;
+    }
+    Require(built.planes.size() == built.scene.sensorPlanes.size());
+    const Simulation::SimulationResult result = DarkResult(built);
+    Catalog::JsonValue json;
+    Require(
+        Catalog::JsonParse(Document::WriteResultDocument(document, built, result, {}), json).ok);
+    for (std::size_t i = 0; i < result.zones.size(); ++i) {
+        Document::WritePlaneTable(built.scene.sensorPlanes[i], result.zones[i].illuminance);
+    }
+    Document::AssemblePlans(document, built, result, {});
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    Document::SceneDocument document;
+    std::string error;
+    if (!Document::ParseSceneDocument(text, LoadIes, document, error)) {
+        Require(!error.empty() && Document::IsPlainText(error));
+        return 0;
+    }
+    if (IsSmall(document)) {
+        BuildAll(document);
+    }
+    return 0;
+}
