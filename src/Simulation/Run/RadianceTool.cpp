@@ -12,6 +12,12 @@ std::wstring WorkPath(const ProcessTarget& target, const std::string& name) {
     return name.empty() ? std::wstring() : target.workFolder + L"/" + Text::Widen(name);
 }
 
+bool Cancel(const ProcessTarget& target, std::string& errorText) {
+    target.result->cancelled = true;
+    errorText = CancelledText;
+    return false;
+}
+
 } // namespace
 
 std::wstring RayPathOf(const std::wstring& workFolder, const std::wstring& radianceLibFolder) {
@@ -38,12 +44,14 @@ Radiance::ProcessJob ToolJob(const ProcessTarget& target, const std::string& nam
 bool RunRadianceTool(const ProcessTarget& target, const std::string& name,
                      const std::vector<std::string>& arguments, const std::string& stdinName,
                      const std::string& stdoutName, std::string& errorText) {
+    // Many short programs in a row could each end before the runner's first question.
+    if (target.poll && target.poll()) {
+        return Cancel(target, errorText);
+    }
     const Radiance::ProcessOutcome outcome =
         Radiance::RunProcess(ToolJob(target, name, arguments, stdinName, stdoutName), target.poll);
     if (outcome.cancelled) {
-        target.result->cancelled = true;
-        errorText = CancelledText;
-        return false;
+        return Cancel(target, errorText);
     }
     if (!outcome.started) {
         errorText = name + ": " + outcome.errorText;
