@@ -1,6 +1,8 @@
 #include "Document/SceneBuild.hpp"
 
 #include "SceneTexts.hpp"
+#include "Support/Places.hpp"
+#include "Text/Utf8.hpp"
 
 #include <gtest/gtest.h>
 
@@ -87,6 +89,18 @@ TEST(SceneBuild, CarriesTheRestOfTheDocument) {
     EXPECT_EQ(built.scene.surfaces.size(), 1U);
     EXPECT_EQ(built.scene.luminaires.size(), 1U);
     EXPECT_EQ(built.scene.points.size(), 1U);
+}
+
+TEST(SceneBuild, TheExamplesOfTheProjectAreScenes) {
+    for (const std::string name : {"sala", "escritorio", "corredor"}) {
+        SCOPED_TRACE(name);
+        const std::filesystem::path file =
+            Tests::SourceFolder() / "exemplos" / name / (name + ".json");
+        SceneDocument document;
+        std::string error;
+        ASSERT_TRUE(ReadSceneDocument(Text::Widen(file.string()), document, error)) << error;
+        EXPECT_FALSE(Build(document).planes.empty());
+    }
 }
 
 TEST(SceneBuild, ANarrowZoneIsNotEmpty) {
