@@ -38,6 +38,13 @@ double Reflectance(const SceneMaterial& material, bool exteriorFace) {
     return exteriorFace ? material.reflectanceOutside : material.reflectanceInside;
 }
 
+std::string ReflectionsWord(std::int32_t reflections) {
+    if (reflections == 0) {
+        return "Sem reflexões";
+    }
+    return "Com " + std::to_string(reflections) + (reflections == 1 ? " reflexão" : " reflexões");
+}
+
 } // namespace
 
 double MeanReflectance(const Scene& scene) {
@@ -67,9 +74,8 @@ std::string ReflectionWarning(const Scene& scene, const SimulationOptions& optio
     if (omitted <= AcceptedOmission) {
         return {};
     }
-    return "Com " + std::to_string(reflections) + " reflexão(ões) da luz, cerca de " +
-           FormatDecimal(omitted * 100.0, 0) +
-           " % da luz refletida fica de fora (refletância média da cena: " +
+    return ReflectionsWord(reflections) + ", cerca de " + FormatDecimal(omitted * 100.0, 0) +
+           " % da luz refletida fica de fora do cálculo (refletância média da cena: " +
            FormatDecimal(mean * 100.0, 0) + " %).";
 }
 
