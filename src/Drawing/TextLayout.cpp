@@ -7,6 +7,7 @@ namespace Merivane::Drawing {
 namespace {
 
 using ContextPointer = std::unique_ptr<PangoContext, ReleaseObject>;
+using FontMapPointer = std::unique_ptr<PangoFontMap, ReleaseObject>;
 
 struct ReleaseFont {
     void operator()(PangoFontDescription* font) const { pango_font_description_free(font); }
@@ -18,7 +19,8 @@ struct ReleaseOptions {
 
 // Without hinting and without rounding a text of 2 mm is laid out as finely as a large one.
 ContextPointer MakeContext() {
-    ContextPointer context(pango_font_map_create_context(pango_cairo_font_map_get_default()));
+    const FontMapPointer fonts(pango_cairo_font_map_new());
+    ContextPointer context(pango_font_map_create_context(fonts.get()));
     const std::unique_ptr<cairo_font_options_t, ReleaseOptions> options(
         cairo_font_options_create());
     cairo_font_options_set_antialias(options.get(), CAIRO_ANTIALIAS_GRAY);
@@ -28,6 +30,13 @@ ContextPointer MakeContext() {
     pango_context_set_round_glyph_positions(context.get(), FALSE);
     pango_context_set_base_dir(context.get(), PANGO_DIRECTION_LTR);
     return context;
+}
+
+// Fonts found once serve every text of a thread. They are released when it ends: Pango's own
+// default map never is.
+PangoContext* TextContext() {
+    thread_local const ContextPointer context = MakeContext();
+    return context.get();
 }
 
 } // namespace
@@ -47,14 +56,13 @@ std::string CleanText(std::string_view text) {
 }
 
 LayoutPointer MakeTextLayout(std::string_view text, double height, TextWeight weight) {
-    const ContextPointer context = MakeContext();
     const std::unique_ptr<PangoFontDescription, ReleaseFont> font(pango_font_description_new());
     pango_font_description_set_family_static(font.get(), FontFamily);
     pango_font_description_set_weight(font.get(), weight == TextWeight::Bold ? PANGO_WEIGHT_BOLD
                                                                              : PANGO_WEIGHT_NORMAL);
     pango_font_description_set_absolute_size(font.get(), height * EmPerCapital * PANGO_SCALE);
 
-    LayoutPointer layout(pango_layout_new(context.get()));
+    LayoutPointer layout(pango_layout_new(TextContext()));
     pango_layout_set_font_description(layout.get(), font.get());
     pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
     pango_layout_set_auto_dir(layout.get(), FALSE);
