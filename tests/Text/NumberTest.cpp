@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -364,6 +365,28 @@ TEST(FormatShortest, ReadsBackAsTheSameDoubleAndHasNoDigitToSpare) {
             std::snprintf(scientific, sizeof scientific, "%.*e", precision++, value);
         } while (Bits(ReadByStrtod(scientific).value) != Bits(value));
         ASSERT_LE(text.size(), std::string(scientific).size()) << text << " " << scientific;
+    }
+}
+
+// Most numbers of a file are short decimals, which are written another way than the rest.
+TEST(FormatShortest, WritesShortDecimalsAsTheStandardLibraryDoes) {
+    const auto expectAsToChars = [](double value) {
+        char buffer[64];
+        const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
+        ASSERT_EQ(FormatShortest(value), std::string(buffer, end));
+    };
+    std::mt19937_64 random(25);
+    for (int i = 0; i < 100000 && !::testing::Test::HasFailure(); ++i) {
+        const auto digits = static_cast<double>(random() >> (random() % 64));
+        const double value = digits / std::pow(10.0, static_cast<double>(random() % 24));
+        expectAsToChars(i % 2 == 0 ? value : -value);
+        expectAsToChars(std::nextafter(value, 0.0));
+        expectAsToChars(std::nextafter(value, 1e300));
+    }
+    for (int exponent = -30; exponent <= 30; ++exponent) {
+        for (const double mantissa : {1.0, 1.5, 1.25, 9.0, 9.99, 123.0}) {
+            expectAsToChars(mantissa * std::pow(10.0, exponent));
+        }
     }
 }
 
