@@ -8,7 +8,7 @@ packages=(
     clang clang-format clang-tidy libclang-rt-14-dev g++ cmake ninja-build pkg-config ccache
     libcairo2-dev libpango1.0-dev libcli11-dev libgtest-dev libbenchmark-dev
     nlohmann-json3-dev libdouble-conversion-dev
-    fonts-dejavu-core poppler-utils python3 python3-pip git ca-certificates)
+    fonts-dejavu-core locales poppler-utils python3 python3-pip git ca-certificates)
 
 stop() {
     echo "$1" >&2
