@@ -54,6 +54,7 @@ struct PlanLine {
 
 std::vector<Vertex> AtHeight(const std::vector<Point>& outline, double z) {
     std::vector<Vertex> vertices;
+    vertices.reserve(outline.size());
     for (const Point& point : outline) {
         vertices.push_back({point[0], point[1], z});
     }

@@ -63,8 +63,7 @@ void AppendHeader(std::string& text, const Photometry::IesFile& file) {
         text += LineEnd;
     }
     for (const auto& [key, value] : file.keywords) {
-        text += "[" + key + "] " + value;
-        text += LineEnd;
+        text.append("[").append(key).append("] ").append(value).append(LineEnd);
     }
 }
 

@@ -34,19 +34,20 @@ bool BeginsHexMantissa(std::string_view digits) {
 // The size of the first digit that is not zero, in powers of the base, tells.
 double OutOfRangeValue(std::string_view number, bool hexadecimal) {
     const char exponentMark = hexadecimal ? 'p' : 'e';
-    const std::string lower = ToLower(number);
+    const std::string text = ToLower(number);
+    const std::string_view lower = text;
     const std::size_t mark = lower.find(exponentMark);
-    const std::string_view mantissa = std::string_view(lower).substr(0, mark);
+    const std::string_view mantissa = lower.substr(0, mark);
 
     const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
     const std::size_t first = mantissa.find_first_not_of("0.");
     const double digitsBeforePoint = static_cast<double>(point) - static_cast<double>(first);
     double size = hexadecimal ? 4.0 * digitsBeforePoint : digitsBeforePoint;
 
-    if (mark != std::string::npos) {
+    if (mark != std::string_view::npos) {
         const bool negative = lower[mark + 1] == '-';
         double exponent = 0.0;
-        for (const char c : std::string_view(lower).substr(mark + 1)) {
+        for (const char c : lower.substr(mark + 1)) {
             if (IsDigit(c)) {
                 exponent = std::min(exponent * 10.0 + (c - '0'), 1e15); // beyond any double
             }
@@ -124,7 +125,7 @@ bool AppendShortDecimal(std::string& text, double value) {
     if (!(size >= 0.001 && size < 100000.0)) {
         return false;
     }
-    auto scaled = static_cast<std::uint32_t>(size * Scale + 0.5);
+    auto scaled = static_cast<std::uint32_t>(std::lround(size * Scale));
     if (static_cast<double>(scaled) / Scale != size) {
         return false;
     }

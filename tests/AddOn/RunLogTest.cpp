@@ -37,7 +37,7 @@ protected:
         }
         const std::string bytes = Tests::ReadBytes(LogFolder() / name);
         EXPECT_TRUE(bytes.ends_with('\n'));
-        static const std::regex time("[0-2][0-9]:[0-5][0-9]:[0-6][0-9]  ");
+        const std::regex time("[0-2][0-9]:[0-5][0-9]:[0-6][0-9]  ");
         std::istringstream stream(bytes);
         for (std::string line; std::getline(stream, line);) {
             EXPECT_TRUE(std::regex_match(line.substr(0, 10), time)) << line;
