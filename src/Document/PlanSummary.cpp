@@ -61,12 +61,9 @@ std::string Metres(double value) {
 
 SheetBlock BuildSummaryBlock(const PlanZone& zone) {
     SheetBlock block;
+    block.height = -0.5 * TitleHeight; // the first line needs no space above it
     AppendLines(block, WrapText(zone.name, ColumnWidth, TitleHeight, TextWeight::Bold), TitleHeight,
                 1.5 * TitleHeight, TextWeight::Bold, Drawing::Black);
-    block.height -= 0.5 * TitleHeight; // the first line needs no space above it
-    for (Drawing::Element& element : block.elements) {
-        std::get<Drawing::TextRun>(element).position.y += 0.5 * TitleHeight;
-    }
     AppendRule(block);
 
     const Simulation::PointStatistics& statistics = zone.statistics;

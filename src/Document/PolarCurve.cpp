@@ -7,6 +7,7 @@
 #include "Text/Number.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -39,12 +40,9 @@ struct CurvePlane {
     std::vector<double> dashes; ///< so that both show where they lie on each other
 };
 
-const std::vector<CurvePlane>& CurvePlanes() {
-    static const std::vector<CurvePlane> planes = {
-        {0.0, 180.0, "C0–C180", TransverseColor, {}},
-        {90.0, 270.0, "C90–C270", AxialColor, {3.0, 1.2}},
-    };
-    return planes;
+std::array<CurvePlane, 2> CurvePlanes() {
+    return {{{0.0, 180.0, "C0–C180", TransverseColor, {}},
+             {90.0, 270.0, "C90–C270", AxialColor, {3.0, 1.2}}}};
 }
 
 // What is drawn: circles up to `top`, and the halves of the sphere that hold light.

@@ -35,8 +35,8 @@ ContextPointer MakeContext() {
 // Fonts found once serve every text of a thread. They are released when it ends: Pango's own
 // default map never is.
 PangoContext* TextContext() {
-    thread_local const ContextPointer context = MakeContext();
-    return context.get();
+    thread_local const ContextPointer Context = MakeContext();
+    return Context.get();
 }
 
 } // namespace

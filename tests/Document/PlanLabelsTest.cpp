@@ -29,7 +29,8 @@ PlanZone ZoneOfNodes(int columns, int rows) {
     PlanZone zone;
     zone.grid.columns = columns;
     zone.grid.rows = rows;
-    zone.grid.active.assign(static_cast<std::size_t>(columns * rows), true);
+    zone.grid.active.assign(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows),
+                            true);
     for (int j = 0; j < rows; ++j) {
         for (int i = 0; i < columns; ++i) {
             zone.values.push_back(100 * j + i);

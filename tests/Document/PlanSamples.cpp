@@ -74,9 +74,15 @@ PlanContents SampleRoom() {
 
 PlanContents SampleOffice() {
     std::vector<Point2D> lights;
-    for (int k = 0; k < 12; ++k) {
-        lights.push_back({1.5 + 3.0 * (k % 2), 1.0 + 2.0 * (k / 2)});
-        lights.push_back({7.0 + 2.0 * (k % 4), 1.0 + 2.0 * (k / 4)});
+    for (int row = 0; row < 6; ++row) {
+        for (int k = 0; k < 2; ++k) {
+            lights.push_back({1.5 + 3.0 * k, 1.0 + 2.0 * row});
+        }
+    }
+    for (int row = 0; row < 3; ++row) {
+        for (int k = 0; k < 4; ++k) {
+            lights.push_back({7.0 + 2.0 * k, 1.0 + 2.0 * row});
+        }
     }
     PlanContents contents;
     contents.title = "Escritório";
@@ -104,6 +110,7 @@ PlanContents SampleCorridor() {
 
 std::vector<std::string> TextsOf(const std::vector<Drawing::TextRun>& runs) {
     std::vector<std::string> texts;
+    texts.reserve(runs.size());
     for (const Drawing::TextRun& run : runs) {
         texts.push_back(run.text);
     }
@@ -128,6 +135,7 @@ Drawing::TextRun FindText(const Drawing::DisplayList& list, const std::string& t
 std::string OverlappingTexts(const Drawing::DisplayList& list) {
     const std::vector<Drawing::TextRun> runs = ElementsOf<Drawing::TextRun>(list);
     std::vector<Drawing::Box> boxes;
+    boxes.reserve(runs.size());
     for (const Drawing::TextRun& run : runs) {
         boxes.push_back(TextBounds(run));
     }

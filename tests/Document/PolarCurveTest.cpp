@@ -27,7 +27,7 @@ Photometry::IesFile Downlight() {
     return FileOf({0, 30, 60, 90}, {950, 800, 200, 0});
 }
 
-Drawing::DisplayList Draw(const Photometry::IesFile& file, PolarCurveStyle style = {}) {
+Drawing::DisplayList Draw(const Photometry::IesFile& file, const PolarCurveStyle& style = {}) {
     Drawing::DisplayList list;
     std::string error;
     EXPECT_TRUE(BuildPolarCurve(file, style, list, error)) << error;

@@ -61,9 +61,9 @@ TEST(BuildResultPlan, NoTextCoversAnotherInRandomRooms) {
     for (int k = 0; k < 20; ++k) {
         const double width = side(random);
         const double height = side(random);
-        std::vector<Simulation::Point2D> lights;
-        for (int n = 0; n < 6; ++n) {
-            lights.push_back({width * unit(random), height * unit(random)});
+        std::vector<Simulation::Point2D> lights(6);
+        for (Simulation::Point2D& light : lights) {
+            light = {width * unit(random), height * unit(random)};
         }
         PlanContents contents;
         contents.levels = Simulation::DefaultLevels();

@@ -29,7 +29,10 @@ struct Picture {
     int height = 0;
     std::vector<std::uint32_t> dots; // 0xRRGGBB
 
-    std::uint32_t At(int x, int y) const { return dots[static_cast<std::size_t>(y * width + x)]; }
+    std::uint32_t At(int x, int y) const {
+        return dots[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                    static_cast<std::size_t>(x)];
+    }
 };
 
 Picture Draw(const DisplayList& list, double dotsPerInch = DotPerMillimetre) {
@@ -43,9 +46,11 @@ Picture Draw(const DisplayList& list, double dotsPerInch = DotPerMillimetre) {
     picture.height = cairo_image_surface_get_height(surface);
     const unsigned char* data = cairo_image_surface_get_data(surface);
     for (int y = 0; y < picture.height; ++y) {
+        const unsigned char* row =
+            data + std::ptrdiff_t{cairo_image_surface_get_stride(surface)} * y;
         for (int x = 0; x < picture.width; ++x) {
             std::uint32_t dot = 0;
-            std::memcpy(&dot, data + y * cairo_image_surface_get_stride(surface) + 4 * x, 4);
+            std::memcpy(&dot, row + std::ptrdiff_t{4} * x, 4);
             picture.dots.push_back(dot & 0xFFFFFFU);
         }
     }
