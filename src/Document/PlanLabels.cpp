@@ -119,10 +119,11 @@ std::size_t NearestPoint(const std::vector<Point2D>& points, Point2D place) {
                                     points.begin());
 }
 
-// The wanted place and then the points of the curve, from there outwards on both sides; the same
-// again with the text moved sideways by `aside` mm, so that the curve runs through its end.
+// The wanted place and then the points of the curve, from there outwards on both sides; then the
+// same with the text moved aside by parts of its `width`, or of its height, so that the curve runs
+// through its edge: beside a wall that is all the room there is.
 std::vector<Point> CurvePlaces(const PlanSheet& sheet, const Simulation::IsoCurve& curve,
-                               Point2D wanted, double aside) {
+                               Point2D wanted, double width) {
     std::vector<Point> places = {OnPaper(sheet, wanted)};
     const std::size_t count = curve.points.size();
     const std::size_t nearest = NearestPoint(curve.points, wanted);
@@ -136,8 +137,11 @@ std::vector<Point> CurvePlaces(const PlanSheet& sheet, const Simulation::IsoCurv
     }
     const std::size_t onCurve = places.size();
     for (std::size_t k = 0; k < onCurve; ++k) {
-        places.push_back({places[k].x + aside, places[k].y});
-        places.push_back({places[k].x - aside, places[k].y});
+        const Point on = places[k];
+        places.push_back({on.x + 0.35 * width, on.y});
+        places.push_back({on.x - 0.35 * width, on.y});
+        places.push_back({on.x, on.y + 0.6 * CurveLabelHeight});
+        places.push_back({on.x, on.y - 0.6 * CurveLabelHeight});
     }
     return places;
 }
@@ -215,8 +219,8 @@ void AppendCurveLabels(Drawing::Layer& layer, TextSpace& space, const PlanSheet&
         }
         TextRun text = CenteredText(Simulation::CurveLabelText(curves[k].level), CurveLabelHeight);
         text.halo = CurveHalo;
-        const double aside = 0.35 * Drawing::MeasureText(text.text, text.height).width;
-        if (PlaceText(space, text, CurvePlaces(sheet, curves[k], *labels.positions[k], aside))) {
+        const double width = Drawing::MeasureText(text.text, text.height).width;
+        if (PlaceText(space, text, CurvePlaces(sheet, curves[k], *labels.positions[k], width))) {
             layer.elements.emplace_back(text);
         }
     }

@@ -8,8 +8,8 @@ namespace {
 using Drawing::Box;
 using Drawing::Point;
 
-constexpr double TextGap = 0.5;   // mm, between texts
-constexpr double FigureGap = 0.3; // mm, to what is drawn
+constexpr double TextGap = 0.8;   // mm, between texts: more than any halo
+constexpr double FigureGap = 0.8; // mm, to what is drawn: more than any halo
 
 // Cuts the stretch from `first` to `last` of a line down to where start + t * step lies between
 // `low` and `high`; false when nothing is left (Liang and Barsky's clipping, one axis).

@@ -21,7 +21,7 @@ struct TextSpace {
     std::vector<PaperLine> limits;     ///< better not crossed
 };
 
-/// True when a text in `box` would cover no other text, nor come nearer than half a millimetre.
+/// True when a text in `box` would cover no other text, nor come nearer than 0.8 mm.
 bool IsFreeOfTexts(const TextSpace& space, const Drawing::Box& box);
 
 /// True when it would cover no text and cross no wall.
