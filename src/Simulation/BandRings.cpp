@@ -1,6 +1,7 @@
 #include "Simulation/BandRings.hpp"
 
 #include <cmath>
+#include <utility>
 
 namespace Merivane::Simulation {
 
@@ -15,17 +16,17 @@ double TurnAngle(Point2D previous, Point2D at, Point2D next) {
 
 /// Which way goes on at a node with two ways out. Of equal turns, and where neither is a number,
 /// the first.
-std::uint32_t LeftmostWay(std::span<const MeshVertex> vertices, std::uint32_t previous,
-                          std::uint32_t at) {
-    const auto& next = vertices[at].next;
+std::uint32_t LeftmostWay(const ContourMesh& mesh, std::uint32_t previous, std::uint32_t at) {
+    const MeshLinks& next = mesh.links[at];
     if (next[0] == NoSlot || next[1] == NoSlot) {
         return next[0] == NoSlot ? 1 : 0;
     }
     double best = -1e9;
     std::uint32_t chosen = 0;
     for (std::uint32_t way = 0; way < 2; ++way) {
-        const Point2D to = vertices[(next[way] & ~PinchFlag) >> 1U].Point();
-        const double angle = TurnAngle(vertices[previous].Point(), vertices[at].Point(), to);
+        const Point2D to = mesh.vertices[(next[way] & ~PinchFlag) >> 1U].Point();
+        const double angle =
+            TurnAngle(mesh.vertices[previous].Point(), mesh.vertices[at].Point(), to);
         if (angle > best) {
             best = angle;
             chosen = way;
@@ -36,19 +37,17 @@ std::uint32_t LeftmostWay(std::span<const MeshVertex> vertices, std::uint32_t pr
 
 /// Follows the boundary that leaves `start` by `way`. Every way that is taken is taken away, so no
 /// boundary is found twice.
-void TraceRing(std::span<MeshVertex> vertices, std::uint32_t start, std::uint32_t way,
+void TraceRing(ContourMesh& mesh, std::uint32_t start, std::uint32_t way,
                std::vector<Point2D>& points) {
     std::uint32_t at = start;
     do {
-        MeshVertex& vertex = vertices[at];
-        points.push_back(vertex.Point());
-        const std::uint32_t slot = vertex.next[way];
-        vertex.next[way] = NoSlot;
+        points.push_back(mesh.vertices[at].Point());
+        const std::uint32_t slot = std::exchange(mesh.links[at][way], NoSlot);
         const std::uint32_t previous = at;
         at = (slot & ~PinchFlag) >> 1U;
         way = slot & 1U;
         if ((slot & PinchFlag) != 0 && at != start) {
-            way = LeftmostWay(vertices, previous, at);
+            way = LeftmostWay(mesh, previous, at);
         }
     } while (at != start);
 }
@@ -56,17 +55,16 @@ void TraceRing(std::span<MeshVertex> vertices, std::uint32_t start, std::uint32_
 } // namespace
 
 void ForEachBandRing(ContourMesh mesh, const BandRingVisitor& visit) {
-    const std::span<MeshVertex> vertices = mesh.All();
     std::vector<Point2D> ring;
-    for (std::uint32_t v = 0; v < vertices.size(); ++v) {
-        const MeshVertex& vertex = vertices[v];
+    for (std::uint32_t v = 0; v < mesh.count; ++v) {
         for (std::uint32_t way = 0; way < 2; ++way) {
-            if (vertex.next[way] == NoSlot) {
+            if (mesh.links[v][way] == NoSlot) {
                 continue;
             }
+            const MeshVertex& vertex = mesh.vertices[v];
             const bool aboveLevel = vertex.key != NoKey && way == HighOnLeft;
             ring.clear();
-            TraceRing(vertices, v, way, ring);
+            TraceRing(mesh, v, way, ring);
             visit(vertex.level + (aboveLevel ? 1U : 0U), ring);
         }
     }

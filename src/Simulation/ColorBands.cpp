@@ -22,37 +22,24 @@ constexpr double BesideHole = 1e-6;
 /// What one band is made of before its holes are given to its polygons.
 struct BandParts {
     std::vector<BandPolygon> polygons;
-    std::vector<double> areas; ///< of the outer rings
+    std::vector<RingMeasure> measures; ///< of the outer rings
     std::vector<std::vector<Point2D>> holes;
 };
-
-/// Above 0 when counter-clockwise [m2]. Reckoned from the first vertex, which keeps the digits of a
-/// small ring far from the origin.
-double SignedArea(std::span<const Point2D> ring) {
-    const Point2D origin = ring.front();
-    double twice = 0.0;
-    for (std::size_t i = 2; i < ring.size(); ++i) {
-        const Point2D& a = ring[i - 1];
-        const Point2D& b = ring[i];
-        twice += (a.x - origin.x) * (b.y - origin.y) - (b.x - origin.x) * (a.y - origin.y);
-    }
-    return twice / 2;
-}
 
 std::vector<BandParts> CollectParts(ContourMesh mesh, std::size_t bandCount) {
     std::vector<BandParts> bands(bandCount);
     ForEachBandRing(std::move(mesh), [&](std::size_t k, std::vector<Point2D>& ring) {
-        ring = SimplifyRing(std::move(ring));
+        SimplifyRingInPlace(ring);
         if (ring.size() < 3) {
             return;
         }
         BandParts& band = bands[k];
-        const double area = SignedArea(ring);
-        if (area > 0) {
-            band.polygons.push_back({{ring.begin(), ring.end()}, {}});
-            band.areas.push_back(area);
-        } else if (area < 0) {
-            band.holes.emplace_back(ring.begin(), ring.end());
+        const RingMeasure measure = MeasureRing(ring);
+        if (measure.area > 0) {
+            band.polygons.emplace_back().outer.assign(ring.begin(), ring.end());
+            band.measures.push_back(measure);
+        } else if (measure.area < 0) {
+            band.holes.emplace_back().assign(ring.begin(), ring.end());
         }
     });
     return bands;
@@ -79,7 +66,7 @@ void PlaceHoles(BandParts& band, const CalculationGrid& grid) {
     std::vector<OuterRing> outers;
     outers.reserve(band.polygons.size());
     for (std::size_t p = 0; p < band.polygons.size(); ++p) {
-        outers.push_back({band.polygons[p].outer, band.areas[p]});
+        outers.push_back({band.polygons[p].outer, band.measures[p]});
     }
     const auto owners = FindOwners(beside, outers, grid.stepY);
     for (std::size_t h = 0; h < owners.size(); ++h) {

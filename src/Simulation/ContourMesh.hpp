@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <vector>
 
 namespace Merivane::Simulation {
@@ -27,18 +26,20 @@ enum MeshWay : std::uint32_t {
 };
 
 /// A place that curves or the edges of bands run through: a crossing of one level with one edge of
-/// the grid, or a grid node on the edge of the area that has values ("corner").
-/// Without defaults, so that room for many costs nothing.
+/// the grid, or a grid node on the edge of the area that has values ("corner"). Without defaults,
+/// so that room for many costs nothing.
 struct MeshVertex {
     double x; ///< [m]
     double y;
-    std::array<std::uint32_t, 2> next; ///< by `MeshWay`; a corner's ways out are in ascending
-                                       ///< order of the vertices they reach
-    std::uint32_t level;               ///< index of the level; of a corner the band it lies in
-    std::uint32_t key;                 ///< edge key; of a corner `NoKey`
+    std::uint32_t level; ///< index of the level; of a corner the band it lies in
+    std::uint32_t key;   ///< edge key; of a corner `NoKey`
 
     Point2D Point() const { return {x, y}; }
 };
+
+/// Where the ways out of a vertex lead, by `MeshWay`; those of a corner are in ascending order of
+/// the vertices they reach.
+using MeshLinks = std::array<std::uint32_t, 2>;
 
 /// Key of a vertex that is a corner. A grid edge has the key 2n when it runs from node n to the
 /// right, and 2n + 1 when it runs upwards.
@@ -52,11 +53,10 @@ enum class MeshBorder { None, Corners };
 /// band by band, in a band along the cell's perimeter.
 struct ContourMesh {
     std::unique_ptr<MeshVertex[]> vertices;
-    std::uint32_t count = 0;           ///< of vertices
-    std::size_t capacity = 0;          ///< room for vertices
+    std::unique_ptr<MeshLinks[]>
+        links;               ///< apart from the vertices: who follows them wants few bytes
+    std::uint32_t count = 0; ///< of vertices and of links
     std::vector<std::int32_t> reached; ///< per node: how many levels its value reaches, -1 for NaN
-
-    std::span<MeshVertex> All() { return {vertices.get(), count}; }
 };
 
 /// True when the field can be contoured: it has a grid of at least 2 x 2 nodes and a value for each

@@ -1,146 +1,160 @@
-// Noise makes thousands of holes and thousands of outer rings, so the edges of all outer rings are
-// sorted into rows once, and a point looks at the edges of its own row only.
+// Noise makes thousands of holes and thousands of outer rings, most of them small and a few that
+// wind through the whole field. So the boxes of the rings are sorted into rows, and where a point
+// lies in the box of a large ring, that ring's edges are sorted into rows too, once.
 #include "Simulation/HoleOwners.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <utility>
 
 namespace Merivane::Simulation {
 
 namespace {
 
-struct Edge {
-    Point2D a;
-    Point2D b;
-};
+/// Rings with more vertices get rows of their own.
+constexpr std::size_t LargeRing = 24;
 
-/// The edges of one outer ring in one row: `edges[first]` up to the first of the next group. The
-/// last group of all belongs to no ring.
-struct EdgeGroup {
-    std::uint32_t outer = 0;
-    std::uint32_t first = 0;
-    double left = 0.0;
-    double right = 0.0;
-};
+constexpr std::uint32_t NoEntry = 0xFFFFFFFF;
 
-/// The groups of row r are `groups[starts[r]]` up to `groups[starts[r + 1]]`.
-struct EdgeRows {
+/// Things by number, in every row that they touch. Each row is a list, so that nothing need be
+/// counted first.
+struct RowLists {
+    struct Entry {
+        std::uint32_t thing;
+        std::uint32_t next;
+    };
+
     double bottom = 0.0;
     double rowsPerMetre = 1.0;
-    double last = 0.0;
-    std::vector<std::uint32_t> starts;
-    std::vector<EdgeGroup> groups;
-    std::vector<Edge> edges;
+    double last = 0.0;                ///< number of the last row
+    std::vector<std::uint32_t> heads; ///< by row, and one list more that is never read
+    std::vector<Entry> entries;
 };
 
-/// Never falls as y rises, so an edge that passes the height of a point shares that point's row.
-/// Cut off, not rounded down by `floor`, which is a call where the processor has no instruction.
-std::uint32_t RowOf(const EdgeRows& rows, double y) {
-    return static_cast<std::uint32_t>(
-        std::clamp((y - rows.bottom) * rows.rowsPerMetre, 0.0, rows.last));
+RowLists LayRows(double bottom, double top, double height, std::size_t things) {
+    constexpr double mostRows = 65536;
+    RowLists rows;
+    rows.bottom = bottom;
+    rows.rowsPerMetre = 1.0 / std::max(height, (top - bottom) / mostRows);
+    rows.last = std::trunc((top - bottom) * rows.rowsPerMetre);
+    rows.heads.assign(static_cast<std::size_t>(rows.last) + 2, NoEntry);
+    rows.entries.reserve(2 * things + rows.heads.size());
+    return rows;
 }
 
-/// Hands out every edge that is not level, with its lowest and highest row.
-template <typename Visit>
-void ForEachEdge(const EdgeRows& rows, std::span<const OuterRing> outers, Visit visit) {
-    for (std::uint32_t o = 0; o < outers.size(); ++o) {
-        Point2D a = outers[o].points.back();
-        std::uint32_t rowA = RowOf(rows, a.y);
-        for (const Point2D& b : outers[o].points) {
-            const std::uint32_t rowB = RowOf(rows, b.y);
-            if (a.y != b.y) {
-                visit(Edge{a, b}, o, std::min(rowA, rowB), std::max(rowA, rowB));
-            }
-            a = b;
-            rowA = rowB;
-        }
+/// Never falls as y rises, so what passes the height of a point shares that point's row. Cut off,
+/// not rounded down by `floor`, which is a call where the processor has no instruction.
+std::uint32_t RowOf(const RowLists& rows, double y) {
+    const double row = (y - rows.bottom) * rows.rowsPerMetre;
+    return static_cast<std::uint32_t>(std::min(std::max(row, 0.0), rows.last));
+}
+
+void Put(RowLists& rows, std::uint32_t row, std::uint32_t thing) {
+    const auto number = static_cast<std::uint32_t>(rows.entries.size());
+    rows.entries.push_back({thing, rows.heads[row]});
+    rows.heads[row] = number;
+}
+
+/// Puts a thing into the rows `low` to `high`. Most touch one or two, as good as at random, so two
+/// are always written, into the list that is never read where there is only one.
+void PutInto(RowLists& rows, std::uint32_t low, std::uint32_t high, std::uint32_t thing) {
+    const auto unread = static_cast<std::uint32_t>(rows.heads.size() - 1);
+    Put(rows, low, thing);
+    Put(rows, high == low ? unread : high, thing);
+    for (std::uint32_t row = low + 1; row < high; ++row) {
+        Put(rows, row, thing);
     }
 }
 
-EdgeRows LayRows(std::span<const OuterRing> outers, double rowHeight) {
-    constexpr double mostRows = 65536;
+/// Edge n of a ring ends in vertex n.
+RowLists SortEdges(const OuterRing& ring, double rowHeight) {
+    const auto& [points, measure] = ring;
+    RowLists rows = LayRows(measure.bottom, measure.top, rowHeight, points.size());
+    std::uint32_t before = RowOf(rows, points.back().y);
+    for (std::uint32_t n = 0; n < points.size(); ++n) {
+        const std::uint32_t here = RowOf(rows, points[n].y);
+        PutInto(rows, std::min(before, here), std::max(before, here), n);
+        before = here;
+    }
+    return rows;
+}
+
+RowLists SortBoxes(std::span<const OuterRing> outers, double rowHeight) {
     double bottom = std::numeric_limits<double>::infinity();
     double top = -bottom;
     for (const OuterRing& outer : outers) {
-        for (const Point2D& point : outer.points) {
-            bottom = std::min(bottom, point.y);
-            top = std::max(top, point.y);
-        }
+        bottom = std::min(bottom, outer.measure.bottom);
+        top = std::max(top, outer.measure.top);
     }
-    EdgeRows rows;
-    rows.bottom = bottom;
-    rows.rowsPerMetre = 1.0 / std::max(rowHeight, (top - bottom) / mostRows);
-    rows.last = std::trunc((top - bottom) * rows.rowsPerMetre);
-    rows.starts.assign(static_cast<std::size_t>(rows.last) + 2, 0);
+    RowLists rows = LayRows(bottom, top, rowHeight, outers.size());
+    for (std::uint32_t o = 0; o < outers.size(); ++o) {
+        const RingMeasure& box = outers[o].measure;
+        PutInto(rows, RowOf(rows, box.bottom), RowOf(rows, box.top), o);
+    }
     return rows;
 }
 
-/// Sorts the edges into rows, ring after ring within a row, and gathers them into groups.
-EdgeRows SortIntoRows(std::span<const OuterRing> outers, double rowHeight) {
-    EdgeRows rows = LayRows(outers, rowHeight);
-    struct Count {
-        std::uint32_t edges = 0;
-        std::uint32_t groups = 0;
-        std::uint32_t lastOuter = 0xFFFFFFFF;
-    };
-    std::vector<Count> counts(rows.starts.size());
-    ForEachEdge(rows, outers,
-                [&](const Edge&, std::uint32_t outer, std::uint32_t first, std::uint32_t last) {
-                    for (std::uint32_t r = first; r <= last; ++r) {
-                        ++counts[r].edges;
-                        counts[r].groups += counts[r].lastOuter != outer ? 1 : 0;
-                        counts[r].lastOuter = outer;
-                    }
-                });
-    Count total;
-    for (std::size_t r = 0; r < counts.size(); ++r) {
-        rows.starts[r] = total.groups;
-        total.edges += std::exchange(counts[r].edges, total.edges);
-        total.groups += std::exchange(counts[r].groups, total.groups);
-        counts[r].lastOuter = 0xFFFFFFFF;
+/// True when a ray from `p` towards +x meets the edge. Only an edge beside whose ends `p` lies
+/// needs the place where it is met.
+bool RayMeets(Point2D a, Point2D b, Point2D p) {
+    const bool passes = (a.y > p.y) != (b.y > p.y);
+    bool right = a.x > p.x;
+    if (right != (b.x > p.x)) {
+        right = a.x + (p.y - a.y) * (b.x - a.x) / (b.y - a.y) > p.x;
     }
-    rows.edges.resize(total.edges);
-    rows.groups.resize(total.groups + 1);
-    rows.groups.back().first = total.edges;
-    ForEachEdge(
-        rows, outers,
-        [&](const Edge& edge, std::uint32_t outer, std::uint32_t first, std::uint32_t last) {
-            const double left = std::min(edge.a.x, edge.b.x);
-            const double right = std::max(edge.a.x, edge.b.x);
-            for (std::uint32_t r = first; r <= last; ++r) {
-                Count& count = counts[r];
-                if (count.lastOuter != outer) {
-                    rows.groups[count.groups++] = {outer, count.edges, left, right};
-                    count.lastOuter = outer;
-                }
-                EdgeGroup& group = rows.groups[count.groups - 1];
-                group.left = std::min(group.left, left);
-                group.right = std::max(group.right, right);
-                rows.edges[count.edges++] = edge;
-            }
-        });
-    return rows;
+    return passes & right;
 }
 
-/// True when a ray from `p` towards +x meets the edges an odd number of times. Only an edge above,
-/// below or at `p` needs the place where it is met.
-bool IsOdd(std::span<const Edge> edges, Point2D p) {
+bool Contains(std::span<const Point2D> ring, Point2D p) {
     bool odd = false;
-    for (const auto& [a, b] : edges) {
-        const bool passes = (a.y > p.y) != (b.y > p.y);
-        const bool aRight = a.x > p.x;
-        bool right = aRight;
-        if (aRight != (b.x > p.x)) {
-            right = a.x + (p.y - a.y) * (b.x - a.x) / (b.y - a.y) > p.x;
-        }
-        odd ^= passes & right;
+    Point2D a = ring.back();
+    for (const Point2D& b : ring) {
+        odd ^= RayMeets(a, b, p);
+        a = b;
     }
     return odd;
 }
 
+bool Contains(std::span<const Point2D> ring, const RowLists& rows, Point2D p) {
+    bool odd = false;
+    std::uint32_t e = rows.heads[RowOf(rows, p.y)];
+    while (e != NoEntry) {
+        const auto [n, next] = rows.entries[e];
+        odd ^= RayMeets(ring[n > 0 ? n - 1 : ring.size() - 1], ring[n], p);
+        e = next;
+    }
+    return odd;
+}
+
+bool InBox(const RingMeasure& box, Point2D p) {
+    return (p.x >= box.left) & (p.x < box.right) & (p.y >= box.bottom) & (p.y < box.top);
+}
+
+/// True when outer ring `a` is to be preferred to `b`.
+bool IsNearer(std::span<const OuterRing> outers, std::size_t a, std::size_t b) {
+    const double areaA = outers[a].measure.area;
+    const double areaB = outers[b].measure.area;
+    return areaA < areaB || (areaA == areaB && a < b);
+}
+
 } // namespace
+
+RingMeasure MeasureRing(std::span<const Point2D> ring) {
+    const Point2D origin = ring.front();
+    RingMeasure measure{0.0, origin.x, origin.x, origin.y, origin.y};
+    Point2D a{0.0, 0.0};
+    for (const Point2D& point : ring.subspan(1)) {
+        measure.left = std::min(measure.left, point.x);
+        measure.right = std::max(measure.right, point.x);
+        measure.bottom = std::min(measure.bottom, point.y);
+        measure.top = std::max(measure.top, point.y);
+        const Point2D b{point.x - origin.x, point.y - origin.y};
+        measure.area += a.x * b.y - b.x * a.y;
+        a = b;
+    }
+    measure.area /= 2;
+    return measure;
+}
 
 std::vector<std::size_t> FindOwners(std::span<const Point2D> points,
                                     std::span<const OuterRing> outers, double rowHeight) {
@@ -148,21 +162,27 @@ std::vector<std::size_t> FindOwners(std::span<const Point2D> points,
     if (points.empty() || outers.empty()) {
         return owners;
     }
-    const EdgeRows rows = SortIntoRows(outers, rowHeight);
+    const RowLists boxes = SortBoxes(outers, rowHeight);
+    std::vector<RowLists> edges; // of the large rings that were asked for
+    std::vector<std::uint32_t> edgesOf(outers.size(), NoEntry);
     for (std::size_t k = 0; k < points.size(); ++k) {
         const Point2D p = points[k];
-        const std::uint32_t row = RowOf(rows, p.y);
-        for (std::uint32_t g = rows.starts[row]; g < rows.starts[row + 1]; ++g) {
-            const EdgeGroup& group = rows.groups[g];
-            // Beside them all, a ray meets none of them or, as a ring is closed, an even number.
-            if (p.x < group.left || p.x >= group.right) {
+        std::uint32_t e = boxes.heads[RowOf(boxes, p.y)];
+        while (e != NoEntry) {
+            const auto [o, next] = boxes.entries[e];
+            e = next;
+            const OuterRing& outer = outers[o];
+            if (!InBox(outer.measure, p) ||
+                (owners[k] != NoOwner && !IsNearer(outers, o, owners[k]))) {
                 continue;
             }
-            const std::size_t best = owners[k];
-            const std::uint32_t next = rows.groups[g + 1].first;
-            if ((best == NoOwner || outers[group.outer].area < outers[best].area) &&
-                IsOdd({&rows.edges[group.first], next - group.first}, p)) {
-                owners[k] = group.outer;
+            const bool large = outer.points.size() > LargeRing;
+            if (large && edgesOf[o] == NoEntry) {
+                edgesOf[o] = static_cast<std::uint32_t>(edges.size());
+                edges.push_back(SortEdges(outer, rowHeight));
+            }
+            if (large ? Contains(outer.points, edges[edgesOf[o]], p) : Contains(outer.points, p)) {
+                owners[k] = o;
             }
         }
     }

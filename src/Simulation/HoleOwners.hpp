@@ -12,10 +12,23 @@ namespace Merivane::Simulation {
 /// A hole that lies in no outer ring.
 inline constexpr std::size_t NoOwner = std::numeric_limits<std::size_t>::max();
 
-/// An outer ring with its area [m2, above 0].
+/// Area and bounding box of a ring.
+struct RingMeasure {
+    double area = 0.0; ///< [m2], above 0 when counter-clockwise
+    double left = 0.0; ///< [m]
+    double right = 0.0;
+    double bottom = 0.0;
+    double top = 0.0;
+};
+
+/// Measures a ring of at least one vertex. The area is reckoned from the first vertex, which keeps
+/// the digits of a small ring far from the origin.
+RingMeasure MeasureRing(std::span<const Point2D> ring);
+
+/// An outer ring of at least 3 vertices; its area is above 0.
 struct OuterRing {
     std::span<const Point2D> points;
-    double area = 0.0;
+    RingMeasure measure;
 };
 
 /// For each point (even-odd rule): the index of the outer ring of the smallest area that contains

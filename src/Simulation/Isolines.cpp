@@ -14,8 +14,8 @@ namespace Merivane::Simulation {
 
 namespace {
 
-/// The crossing is in a curve already.
-constexpr std::uint32_t UsedLevel = 0xFFFFFFFF;
+/// Both ways out of a crossing that is in a curve already.
+constexpr std::uint32_t UsedSlot = NoSlot - 1;
 
 struct OpenEnd {
     std::uint32_t level;
@@ -28,12 +28,12 @@ struct OpenEnd {
 };
 
 /// Both ends of every open curve, by level, then key. Every crossing is linked at least once.
-std::vector<OpenEnd> FindOpenEnds(std::span<const MeshVertex> vertices) {
+std::vector<OpenEnd> FindOpenEnds(const ContourMesh& mesh) {
     std::vector<OpenEnd> ends;
-    for (std::uint32_t v = 0; v < vertices.size(); ++v) {
-        const auto& next = vertices[v].next;
+    for (std::uint32_t v = 0; v < mesh.count; ++v) {
+        const MeshLinks& next = mesh.links[v];
         if (next[HighOnLeft] == NoSlot || next[LowOnLeft] == NoSlot) {
-            ends.push_back({vertices[v].level, vertices[v].key, v});
+            ends.push_back({mesh.vertices[v].level, mesh.vertices[v].key, v});
         }
     }
     std::sort(ends.begin(), ends.end());
@@ -41,24 +41,22 @@ std::vector<OpenEnd> FindOpenEnds(std::span<const MeshVertex> vertices) {
 }
 
 /// Follows one way from `start` until it ends or comes back, and marks what it meets as used.
-IsoCurve Walk(std::span<MeshVertex> vertices, std::uint32_t start, MeshWay way, double level,
-              std::vector<Point2D>& points) {
+/// `points` is room to work in.
+void Walk(ContourMesh& mesh, std::uint32_t start, MeshWay way, std::vector<Point2D>& points,
+          IsoCurve& curve) {
     points.clear();
     std::uint32_t slot = 2 * start + way;
-    while (slot != NoSlot) {
-        MeshVertex& vertex = vertices[slot >> 1U];
-        points.push_back(vertex.Point());
-        if (vertex.level == UsedLevel) {
-            break;
-        }
-        vertex.level = UsedLevel;
-        slot = vertex.next[way];
-    }
-    IsoCurve curve;
-    curve.level = level;
+    do {
+        const std::uint32_t at = slot >> 1U;
+        points.push_back(mesh.vertices[at].Point());
+        slot = mesh.links[at][way];
+        mesh.links[at] = {UsedSlot, UsedSlot};
+    } while (slot != NoSlot && slot >> 1U != start);
     curve.closed = slot != NoSlot;
+    if (curve.closed) {
+        points.push_back(points.front());
+    }
     curve.points.assign(points.begin(), points.end());
-    return curve;
 }
 
 /// The way that a closed curve takes from its smallest key: through the cell on the left of that
@@ -77,24 +75,30 @@ std::vector<IsoCurve> ExtractIsolines(const GridField& field, const LevelList& l
         return curves;
     }
     ContourMesh mesh = BuildContourMesh(field, levels, MeshBorder::None);
-    const std::span<MeshVertex> vertices = mesh.All();
     std::vector<std::vector<IsoCurve>> byLevel(levels.size());
     std::vector<Point2D> points;
-    for (const OpenEnd& end : FindOpenEnds(vertices)) {
-        const MeshVertex& vertex = vertices[end.vertex];
-        if (vertex.level != UsedLevel) {
-            const MeshWay way = vertex.next[HighOnLeft] != NoSlot ? HighOnLeft : LowOnLeft;
-            byLevel[end.level].push_back(
-                Walk(vertices, end.vertex, way, levels[end.level], points));
+    for (const OpenEnd& end : FindOpenEnds(mesh)) {
+        const MeshLinks& next = mesh.links[end.vertex];
+        if (next[HighOnLeft] != UsedSlot) {
+            const MeshWay way = next[HighOnLeft] != NoSlot ? HighOnLeft : LowOnLeft;
+            IsoCurve& curve = byLevel[end.level].emplace_back();
+            curve.level = levels[end.level];
+            Walk(mesh, end.vertex, way, points, curve);
         }
     }
-    for (std::uint32_t v = 0; v < vertices.size(); ++v) {
-        const std::uint32_t level = vertices[v].level;
-        if (level != UsedLevel && (vertices[v].key & 1U) != 0) {
-            byLevel[level].push_back(
-                Walk(vertices, v, FirstWay(mesh, vertices[v]), levels[level], points));
+    for (std::uint32_t v = 0; v < mesh.count; ++v) {
+        const MeshVertex& vertex = mesh.vertices[v];
+        if (mesh.links[v][HighOnLeft] != UsedSlot && (vertex.key & 1U) != 0) {
+            IsoCurve& curve = byLevel[vertex.level].emplace_back();
+            curve.level = levels[vertex.level];
+            Walk(mesh, v, FirstWay(mesh, vertex), points, curve);
         }
     }
+    std::size_t count = 0;
+    for (const auto& some : byLevel) {
+        count += some.size();
+    }
+    curves.reserve(count);
     for (auto& some : byLevel) {
         std::move(some.begin(), some.end(), std::back_inserter(curves));
     }

@@ -14,22 +14,31 @@ constexpr double StraightSine = 1e-9;
 struct Edge {
     double x;
     double y;
-    double length;
 };
 
 Edge EdgeBetween(Point2D from, Point2D to) {
-    const double x = to.x - from.x;
-    const double y = to.y - from.y;
-    return {x, y, std::sqrt(x * x + y * y)};
+    return {to.x - from.x, to.y - from.y};
 }
 
+double SquaredLength(const Edge& edge) {
+    return edge.x * edge.x + edge.y * edge.y;
+}
+
+/// Whether the vertex between the edges `a` and `b` carries nothing.
 bool IsSpare(const Edge& a, const Edge& b) {
-    if (a.length < ShortestEdge) {
-        return true;
+    const double cross = a.x * b.y - a.y * b.x;
+    const double squaredA = SquaredLength(a);
+    const double squaredB = SquaredLength(b);
+    // Nearly all vertices are far from both limits, and need no root to see it.
+    if (squaredA > 2 * ShortestEdge * ShortestEdge &&
+        cross * cross > 2 * StraightSine * StraightSine * squaredA * squaredB) {
+        return false;
     }
-    return b.length > ShortestAhead &&
-           std::abs(a.x * b.y - a.y * b.x) <= StraightSine * a.length * b.length &&
-           a.x * b.x + a.y * b.y > 0;
+    const double lengthA = std::sqrt(squaredA);
+    const double lengthB = std::sqrt(squaredB);
+    return lengthA < ShortestEdge ||
+           (lengthB > ShortestAhead && std::abs(cross) <= StraightSine * lengthA * lengthB &&
+            a.x * b.x + a.y * b.y > 0);
 }
 
 /// Goes once round the ring, moving what stays to its front. Returns whether anything fell away.
@@ -59,9 +68,13 @@ bool SimplifyOnce(std::vector<Point2D>& ring) {
 
 } // namespace
 
-std::vector<Point2D> SimplifyRing(std::vector<Point2D> ring) {
+void SimplifyRingInPlace(std::vector<Point2D>& ring) {
     while (ring.size() >= 3 && SimplifyOnce(ring)) {
     }
+}
+
+std::vector<Point2D> SimplifyRing(std::vector<Point2D> ring) {
+    SimplifyRingInPlace(ring);
     return ring;
 }
 

@@ -12,4 +12,7 @@ namespace Merivane::Simulation {
 /// fewer than 3 vertices are left.
 std::vector<Point2D> SimplifyRing(std::vector<Point2D> ring);
 
+/// The same in place, for thousands of rings.
+void SimplifyRingInPlace(std::vector<Point2D>& ring);
+
 } // namespace Merivane::Simulation
