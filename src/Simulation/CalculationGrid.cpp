@@ -88,11 +88,6 @@ double GridNodeCount(const Polygon2D& polygon, const GridSettings& settings) {
     return layout.x.nodes * layout.y.nodes;
 }
 
-std::string GridTooLargeMessage(std::string_view planeName) {
-    return "A malha de pontos de \"" + std::string(planeName) +
-           "\" passaria de 20 milhões de nós: aumente o espaçamento ou reduza o polígono.";
-}
-
 CalculationGrid BuildCalculationGrid(const Polygon2D& polygon, double baseLevel,
                                      const GridSettings& settings) {
     CalculationGrid grid;

@@ -4,8 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace Merivane::Simulation {
@@ -59,10 +57,6 @@ inline constexpr std::int64_t MaximumGridNodes = 20'000'000;
 /// How many nodes `BuildCalculationGrid` would lay; more than `MaximumGridNodes` (or infinity) is
 /// to be refused by the caller before building.
 double GridNodeCount(const Polygon2D& polygon, const GridSettings& settings);
-
-/// The Portuguese sentence that refuses the grid of the plane `planeName` for having more than
-/// `MaximumGridNodes`.
-std::string GridTooLargeMessage(std::string_view planeName);
 
 /// Number of calculation points.
 std::size_t ActiveNodeCount(const CalculationGrid& grid);

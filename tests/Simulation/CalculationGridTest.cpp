@@ -10,7 +10,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <string>
 #include <vector>
 
 namespace Merivane::Simulation {
@@ -52,8 +51,8 @@ TEST(AutomaticSpacing, FollowsTheAreaOfTheBox) {
         {39, 25, std::sqrt(975.0 / 4000.0)},
         {41, 25, 0.5}, // beyond
         {1000, 1000, 0.5},
-        {0, 5, 0.1},   // no area
-        {-3, -5, 0.1}, // clamped to zero, not a positive product
+        {0, 5, 0.1},     // no area
+        {-30, -50, 0.1}, // clamped to zero, not a positive product
         {1e-9, 1e-9, 0.1},
         {-3, 5, 0.1},
     };
@@ -106,8 +105,10 @@ TEST(BuildCalculationGrid, NeverStepsWiderThanTheSpacing) {
         {1.0, 1.0, 2},          //
         {1.0, 7.0, 2},          // at least one interval
         {1.0, 0.25 - 1e-12, 5}, // off by rounding only
-        {1.0, 0.249, 6},        // 4.016 intervals
-        {0.9, 0.3, 4},          // 0.9 / 0.3 rounds above 3
+        {1.0, 1.0 / (4.0 + 0.5e-9), 5},
+        {1.0, 1.0 / (4.0 + 2e-9), 6},
+        {1.0, 0.249, 6}, // 4.016 intervals
+        {0.9, 0.3, 4},   // 0.9 / 0.3 rounds above 3
         {1.0, std::numeric_limits<double>::infinity(), 2},
     };
     for (const Case& c : cases) {
@@ -157,6 +158,26 @@ TEST(BuildCalculationGrid, KeepsTheToleranceOnTheLimits) {
         settings.borderBand = c.limit;
         const CalculationGrid band = BuildCalculationGrid(Rectangle(0, 0, 4, 4), 0.0, settings);
         EXPECT_EQ(IsTaskAt(band, 1, 4), c.reached) << c.limit;
+    }
+}
+
+TEST(BuildCalculationGrid, KeepsTheToleranceOnTheWallOffset) {
+    struct Case {
+        double nearer; // than the offset is the column's edge to the node at (1, 2)
+        bool active;
+    };
+    const Case cases[] = {{0.0, true}, {0.5e-9, true}, {2e-9, false}, {-1e-9, true}, {1e-3, false}};
+    for (const Case& c : cases) {
+        Polygon2D room = Rectangle(0, 0, 4, 4);
+        const double edge = 1.5 - c.nearer;
+        room.holes.push_back({{edge, 1}, {3, 1}, {3, 3}, {edge, 3}});
+        GridSettings settings;
+        settings.wallOffset = 0.5;
+        settings.spacing = 0.5;
+        settings.borderBand = 0.0;
+        const CalculationGrid grid = BuildCalculationGrid(room, 0.0, settings);
+        ASSERT_EQ(NodePosition(grid, 1, 3), (Point2D{1, 2}));
+        EXPECT_EQ(IsActiveAt(grid, 1, 3), c.active) << c.nearer;
     }
 }
 
@@ -242,21 +263,27 @@ TEST(BuildCalculationGrid, KeepsPointsOnTheRingOfAHoleInactiveWhileOthersClearTh
     room.holes.push_back({{1.5, 1.5}, {2.5, 1.5}, {2.5, 2.5}, {1.5, 2.5}});
     GridSettings settings;
     settings.spacing = 0.5;
-    settings.wallOffset = 0.25;
-    settings.borderBand = 0.0;
-    CalculationGrid grid = BuildCalculationGrid(room, 0.0, settings);
-    EXPECT_EQ(grid.columns, 8); // 0.25, 0.75, ... none on the ring
     settings.wallOffset = 0.5;
-    grid = BuildCalculationGrid(room, 0.0, settings);
+    settings.borderBand = 0.0;
+    const CalculationGrid grid = BuildCalculationGrid(room, 0.0, settings);
     EXPECT_EQ(grid.columns, 7);
     EXPECT_FALSE(IsActiveAt(grid, 2, 2)); // (1.5, 1.5) on the ring
     EXPECT_TRUE(IsActiveAt(grid, 1, 1));
-    // An offset that swallows everything brings the points on the ring back.
-    settings.wallOffset = 0.9;
-    settings.spacing = 0.6;
-    grid = BuildCalculationGrid(room, 0.0, settings);
-    EXPECT_EQ(grid.columns, 5); // 0.9, 1.45, 2.0, 2.55, 3.1
-    EXPECT_GT(ActiveNodeCount(grid), 0U);
+}
+
+TEST(BuildCalculationGrid, TakesPointsOnTheRingOfAHoleWhereNoneClearsTheOffset) {
+    // The offset leaves nodes only in the column (9) and on its ring (16).
+    Polygon2D room = Rectangle(0, 0, 4, 4);
+    room.holes.push_back({{1, 1}, {3, 1}, {3, 3}, {1, 3}});
+    GridSettings settings;
+    settings.spacing = 0.5;
+    settings.wallOffset = 1.0;
+    const CalculationGrid grid = BuildCalculationGrid(room, 0.0, settings);
+    EXPECT_EQ(grid.columns, 5);
+    EXPECT_EQ(ActiveNodeCount(grid), 16U);
+    EXPECT_TRUE(IsActiveAt(grid, 0, 2));
+    EXPECT_FALSE(IsActiveAt(grid, 2, 2));
+    EXPECT_TRUE(grid.narrow);
 }
 
 TEST(BuildCalculationGrid, CoversAPolygonWithoutAreaWithItsRing) {
@@ -321,12 +348,6 @@ TEST(GridNodeCount, RefusesOneNodeBeyondTwentyMillion) {
     EXPECT_EQ(BuildCalculationGrid(Rectangle(0, 0, 9'999'999, 1), 0, settings).columns, 10'000'000);
     EXPECT_EQ(GridNodeCount(Rectangle(0, 0, 1e7, 1), settings), 20e6 + 2);
     EXPECT_EQ(BuildCalculationGrid(Rectangle(0, 0, 1e7, 1), 0, settings).columns, 0);
-}
-
-TEST(GridTooLargeMessage, NamesThePlane) {
-    EXPECT_EQ(GridTooLargeMessage("Sala 1"),
-              "A malha de pontos de \"Sala 1\" passaria de 20 milhões de nós: aumente o "
-              "espaçamento ou reduza o polígono.");
 }
 
 TEST(ActivePoints, GoByRowsThenByColumns) {
