@@ -75,6 +75,14 @@ TEST(NodeDistances, CountNodesOnARingAsInsideAtDistanceZero) {
     EXPECT_EQ(distances[48], OutsideNode);        // (2.5, 2.5)
 }
 
+TEST(NodeDistances, CountNodesWithinANanometreOfARingAsInside) {
+    const Polygon2D square{{{0, 0}, {2, 0}, {2, 2}, {0, 2}}, {}};
+    const std::vector<double> near = NodeDistances(square, Lattice(-0.5e-9, 1, 1, 1, 1));
+    EXPECT_NEAR(near[0], 0.5e-9, 1e-20);
+    const std::vector<double> off = NodeDistances(square, Lattice(-2e-9, 1, 1, 1, 1));
+    EXPECT_EQ(off[0], OutsideNode);
+}
+
 TEST(NodeDistances, AreNoneWithoutNodesAndOutsideWithoutPolygon) {
     const Polygon2D square{{{0, 0}, {2, 0}, {2, 2}, {0, 2}}, {}};
     EXPECT_TRUE(NodeDistances(square, Lattice(0, 0, 1, 0, 5)).empty());

@@ -194,6 +194,16 @@ TEST(SpanInsidePolygon, JoinsPiecesThatMeetOnARing) {
     EXPECT_NEAR(spans[0].end, 10.0, 1e-9);
 }
 
+TEST(SpanInsidePolygon, KeepsPiecesApartThatAGapParts) {
+    // A slit too thin for a piece of its own still ends one stretch and begins the next.
+    Polygon2D slit = Square;
+    slit.holes.push_back({{5, 2}, {5 + 5e-7, 2}, {5 + 5e-7, 8}, {5, 8}});
+    const std::vector<SegmentSpan> spans = SpanInsidePolygon(slit, {1, 5}, {9, 5});
+    ASSERT_EQ(spans.size(), 2U);
+    EXPECT_NEAR(spans[0].end, 4.0, 1e-9);
+    EXPECT_NEAR(spans[1].start, 4.0 + 5e-7, 1e-9);
+}
+
 TEST(SpanInsidePolygon, FindsTheEndOfASpikeWithoutWidth) {
     const Polygon2D spiked{{{0, 0}, {10, 0}, {10, 5}, {14, 5}, {10, 5}, {10, 10}, {0, 10}}, {}};
     const std::vector<SegmentSpan> spans = SpanInsidePolygon(spiked, {5, 5}, {20, 5});
@@ -201,30 +211,57 @@ TEST(SpanInsidePolygon, FindsTheEndOfASpikeWithoutWidth) {
     EXPECT_NEAR(spans[0].end, 9.0, 1e-9);
 }
 
+// Asks both functions about 50 places of the segment from `a` to `b`.
+void ExpectSpansToAgree(const Polygon2D& polygon, Point2D a, Point2D b, Tests::Random& random) {
+    const double length = std::hypot(b.x - a.x, b.y - a.y);
+    const std::vector<SegmentSpan> spans = SpanInsidePolygon(polygon, a, b);
+    for (int k = 0; k < 50; ++k) {
+        const double at = Tests::Uniform(random, 0.0, length);
+        const Point2D point{a.x + (b.x - a.x) * at / length, a.y + (b.y - a.y) * at / length};
+        if (DistanceToBoundary(polygon, point) < 1e-5) {
+            continue; // too near to call
+        }
+        bool spanned = false;
+        for (const SegmentSpan& span : spans) {
+            spanned = spanned || (at >= span.start && at <= span.end);
+        }
+        ASSERT_EQ(spanned, IsInsidePolygon(polygon, point));
+    }
+}
+
+Point2D AroundPolygon(const Polygon2D& polygon, Tests::Random& random) {
+    const Bounds2D bounds = OuterBounds(polygon);
+    return {Tests::Uniform(random, bounds.minimum.x - 1.0, bounds.maximum.x + 1.0),
+            Tests::Uniform(random, bounds.minimum.y - 1.0, bounds.maximum.y + 1.0)};
+}
+
+// The point `share` of the way from `a` to `b`.
+Point2D Along(Point2D a, Point2D b, double share) {
+    return {a.x + share * (b.x - a.x), a.y + share * (b.y - a.y)};
+}
+
 TEST(SpanInsidePolygon, AgreesWithTheInsideTestAlongRandomSegments) {
     Tests::Random random(20);
     for (int round = 0; round < 300; ++round) {
+        SCOPED_TRACE(round);
         const Polygon2D polygon = Tests::RandomPolygon(random);
-        const Bounds2D bounds = OuterBounds(polygon);
-        const auto anywhere = [&] {
-            return Point2D{Tests::Uniform(random, bounds.minimum.x - 1.0, bounds.maximum.x + 1.0),
-                           Tests::Uniform(random, bounds.minimum.y - 1.0, bounds.maximum.y + 1.0)};
-        };
-        const Point2D a = anywhere();
-        const Point2D b = anywhere();
-        const double length = std::hypot(b.x - a.x, b.y - a.y);
-        const std::vector<SegmentSpan> spans = SpanInsidePolygon(polygon, a, b);
-        for (int k = 0; k < 50; ++k) {
-            const double at = Tests::Uniform(random, 0.0, length);
-            const Point2D point{a.x + (b.x - a.x) * at / length, a.y + (b.y - a.y) * at / length};
-            if (DistanceToBoundary(polygon, point) < 1e-5) {
-                continue; // too near to call
-            }
-            bool spanned = false;
-            for (const SegmentSpan& span : spans) {
-                spanned = spanned || (at >= span.start && at <= span.end);
-            }
-            ASSERT_EQ(spanned, IsInsidePolygon(polygon, point)) << "round " << round;
+        const Point2D a = AroundPolygon(polygon, random);
+        ExpectSpansToAgree(polygon, a, AroundPolygon(polygon, random), random);
+    }
+}
+
+TEST(SpanInsidePolygon, AgreesWithTheInsideTestThroughVerticesAndAlongEdges) {
+    Tests::Random random(21);
+    for (int round = 0; round < 300; ++round) {
+        SCOPED_TRACE(round);
+        Polygon2D polygon = Tests::RandomPolygon(random);
+        // A hole of two vertices cuts nothing, but places on it count as inside.
+        std::erase_if(polygon.holes, [](const auto& hole) { return hole.size() < 3; });
+        const Point2D a = AroundPolygon(polygon, random);
+        for (const Edge2D& edge : BoundaryEdges(polygon)) {
+            ExpectSpansToAgree(polygon, a, Along(a, edge.to, 2.7), random);
+            ExpectSpansToAgree(polygon, Along(edge.from, edge.to, -3.3),
+                               Along(edge.from, edge.to, 4.1), random);
         }
     }
 }

@@ -1,12 +1,14 @@
 #include "Simulation/PreferenceBlock.hpp"
 
 #include "Simulation/EngineSettings.hpp"
+#include "Simulation/LastRunRecord.hpp"
 #include "Simulation/RandomPolygons.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace Merivane::Simulation {
 namespace {
@@ -92,6 +94,16 @@ TEST(ParsePreferenceBlock, ReadsBackAnyEntries) {
         }
         ASSERT_EQ(ParsePreferenceBlock(2, FormatPreferenceBlock(entries)), entries);
     }
+}
+
+TEST(PreferenceValue, IsFoundUnderTheKeysOfSettingsAndLastRun) {
+    const PreferenceEntries entries{{"MVENGN01", FormatEngineSettings(ProfileSettings(2))},
+                                    {"MVLRUN01", FormatLastRun({true, 2400, 37.25, 1.5, 1})}};
+    EngineSettings settings;
+    EXPECT_TRUE(ParseEngineSettings(PreferenceValue(entries, EngineSettingsKey), settings));
+    EXPECT_EQ(settings, ProfileSettings(2));
+    EXPECT_EQ(ParseLastRun(PreferenceValue(entries, LastRunKey)).points, 2400);
+    EXPECT_FALSE(ParseLastRun(PreferenceValue({}, LastRunKey)).valid);
 }
 
 TEST(PreferenceValue, IsEmptyForAnAbsentKey) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdint>
+
 namespace Merivane::Simulation {
 namespace {
 
@@ -39,9 +42,15 @@ TEST(Scene, BeginsWithTheDefaultsOfItsRecords) {
     EXPECT_EQ(material.reflectanceOutside, -1.0);
     const SceneLuminaire luminaire;
     EXPECT_EQ(luminaire.dimming, 1.0);
+    EXPECT_FALSE(luminaire.mirrored);
+    EXPECT_LE(luminaire.arrayCountX, 1); // no copies
+    EXPECT_LE(luminaire.arrayCountY, 1);
     EXPECT_EQ(luminaire.lengthScale, 1.0);
     EXPECT_EQ(luminaire.contract.maintenanceFactor, 0.8);
+    EXPECT_FALSE(SceneSurface{}.exteriorFace);
     const SensorPlane plane;
+    EXPECT_FALSE(plane.vertical);
+    EXPECT_FALSE(plane.facesDown);
     EXPECT_EQ(plane.directionX, 1.0);
     EXPECT_EQ(plane.directionY, 0.0);
     EXPECT_EQ(plane.normalX, 0.0);

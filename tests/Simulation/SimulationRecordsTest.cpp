@@ -14,6 +14,13 @@ TEST(StageTitle, StandsAsTheProgressWindowShowsIt) {
     EXPECT_EQ(StageTitle(SimulationStage::Observers, 7), "Observadores (UGR)");
 }
 
+TEST(SimulationStage, KeepsItsNumbers) {
+    EXPECT_EQ(static_cast<unsigned>(SimulationStage::Preparing), 0U);
+    EXPECT_EQ(static_cast<unsigned>(SimulationStage::Seed), 1U);
+    EXPECT_EQ(static_cast<unsigned>(SimulationStage::Points), 2U);
+    EXPECT_EQ(static_cast<unsigned>(SimulationStage::Observers), 3U);
+}
+
 TEST(StageTitle, IsEmptyForAnUnknownStage) {
     EXPECT_EQ(StageTitle(static_cast<SimulationStage>(4), 7), "");
 }

@@ -1,5 +1,7 @@
 #include "Simulation/TaskOutline.hpp"
 
+#include "Simulation/GridField.hpp"
+#include "Simulation/Isolines.hpp"
 #include "Simulation/PolygonGeometry.hpp"
 #include "Simulation/RandomPolygons.hpp"
 
@@ -33,6 +35,17 @@ std::vector<double> SortedAreas(const std::vector<IsoCurve>& curves) {
     }
     std::sort(areas.begin(), areas.end());
     return areas;
+}
+
+// True when `all` holds the points of `kept` in their order.
+bool IsSubsequence(const std::vector<Point2D>& kept, const std::vector<Point2D>& all) {
+    std::size_t next = 0;
+    for (const Point2D& point : all) {
+        if (next < kept.size() && kept[next] == point) {
+            ++next;
+        }
+    }
+    return next == kept.size();
 }
 
 TEST(BuildTaskOutline, OfARoomIsTheRoomWithoutItsBand) {
@@ -83,6 +96,63 @@ TEST(BuildTaskOutline, FallsApartWhereTheZoneIsNarrowerThanTwoBands) {
     EXPECT_NEAR(areas[0], areas[1], 1e-3);
     EXPECT_GT(areas[0], 4.0); // it bulges towards the corridor
     EXPECT_LT(areas[0], 4.2);
+}
+
+// Points of the outline near the middle of the lower wall, which is bent inwards there by
+// `bend` [m].
+std::size_t PointsAtBend(double bend) {
+    const Polygon2D room{{{0, 0}, {3, bend}, {6, 0}, {6, 4}, {0, 4}}, {}};
+    std::size_t count = 0;
+    // Off the rows of nodes, where points of a curve all but coincide.
+    for (const IsoCurve& curve : BuildTaskOutline(room, 0.5037)) {
+        for (const Point2D& point : curve.points) {
+            count += point.y < 1.0 && std::abs(point.x - 3.0) < 1.0 ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+TEST(BuildTaskOutline, TakesABendBelowTheToleranceAsStraight) {
+    EXPECT_EQ(PointsAtBend(0.0), 0U);
+    EXPECT_EQ(PointsAtBend(1.3e-9), 0U); // turns by 0.87e-9
+    EXPECT_GE(PointsAtBend(1.8e-9), 1U); // by 1.2e-9
+}
+
+// The curves before thinning, traced as the rules ask for with steps of `step`.
+std::vector<IsoCurve> ReferenceCurves(const Polygon2D& polygon, double band, double step) {
+    const CalculationGrid grid =
+        BuildCalculationGrid(polygon, 0.0, GridSettings{0.0, 0.0, 0.0, step});
+    std::vector<double> distances;
+    for (const Point2D& point : ActivePoints(grid)) {
+        distances.push_back(DistanceToBoundary(polygon, point));
+    }
+    return ExtractIsolines(MakeGridField(grid, distances), {band});
+}
+
+TEST(BuildTaskOutline, IsTracedInStepsOfACentimetreUntilAQuarterMillionNodes) {
+    struct Case {
+        double width;
+        double height;
+        double step;
+    };
+    const Case cases[] = {
+        {3, 2, 0.01},
+        {6, 4, 0.01},                        // 24 m2
+        {10, 5, std::sqrt(50.0 / 250000.0)}, // coarser from 25 m2 on
+    };
+    for (const Case& c : cases) {
+        // Its slanted side and its column leave corners where the step shows.
+        const Polygon2D zone{{{0, 0}, {c.width, 0}, {c.width, c.height}, {0.3, c.height}},
+                             {{{1.4, 0.9}, {1.6, 0.9}, {1.5, 1.1}}}};
+        const std::vector<IsoCurve> curves = BuildTaskOutline(zone, 0.3);
+        const std::vector<IsoCurve> whole = ReferenceCurves(zone, 0.3, c.step);
+        ASSERT_EQ(curves.size(), whole.size());
+        for (std::size_t k = 0; k < curves.size(); ++k) {
+            EXPECT_EQ(curves[k].points.front(), whole[k].points.front());
+            EXPECT_EQ(curves[k].points.back(), whole[k].points.back());
+            EXPECT_TRUE(IsSubsequence(curves[k].points, whole[k].points));
+        }
+    }
 }
 
 TEST(BuildTaskOutline, IsNothingWithoutATaskArea) {

@@ -95,6 +95,23 @@ TEST(BuildZoneSurfaces, TurnsEveryNormalIntoTheRoomWhateverTheOrientation) {
     }
 }
 
+TEST(BuildZoneSurfaces, AsksForTheRoomTwoCentimetresBesideTheWall) {
+    struct Case {
+        double width;
+        double normalY;
+    };
+    const Case cases[] = {
+        {0.021, 1.0},  // the room reaches farther
+        {0.019, -1.0}, // it does not: the normal turns away
+    };
+    for (const Case& c : cases) {
+        const Polygon2D strip{{{0, 0}, {3, 0}, {3, c.width}, {0, c.width}}, {}};
+        const std::vector<ZoneSurface> surfaces = BuildZoneSurfaces(strip, 0, 3);
+        ASSERT_EQ(surfaces.size(), 4U);
+        EXPECT_EQ(surfaces[0].normalY, c.normalY) << c.width;
+    }
+}
+
 TEST(BuildZoneSurfaces, LeavesShortEdgesOutAndNumbersTheRest) {
     const Polygon2D zone{{{0, 0}, {5, 0}, {5.1, 0.1}, {5.1, 0.4}, {5.1, 4}, {0, 4}}, {}};
     const std::vector<ZoneSurface> surfaces = BuildZoneSurfaces(zone, 0, 3);
@@ -179,6 +196,14 @@ TEST(BuildSurfaceGrid, LaysCeilingAndFloorAtTheirHeight) {
     EXPECT_DOUBLE_EQ(BuildSurfaceGrid(surfaces[9], 0.05).grid.z, 3.01);
 }
 
+TEST(BuildSurfaceGrid, TakesNoHeightOfAVerticalSurface) {
+    for (const ZoneSurfaceKind kind : {ZoneSurfaceKind::Wall, ZoneSurfaceKind::Reveal}) {
+        ZoneSurface surface = SurfaceOf(kind, 2, 1);
+        surface.z = 5.0;
+        EXPECT_EQ(BuildSurfaceGrid(surface, 0.05).grid.z, 0.0);
+    }
+}
+
 TEST(SurfaceWorldPoint, StandsOnTheRealSurface) {
     const std::vector<ZoneSurface> surfaces = BuildZoneSurfaces(Room, 3.0, 2.8);
     EXPECT_EQ(SurfaceWorldPoint(surfaces[1], {1.5, 4.25}), (Point3D{6, 1.5, 4.25}));
@@ -209,6 +234,18 @@ TEST(SurfaceSensorPlane, StandsOffTheSurfaceAndLooksIntoTheRoom) {
     EXPECT_FALSE(ceiling.vertical);
     EXPECT_TRUE(ceiling.facesDown);
     EXPECT_DOUBLE_EQ(ceiling.grid.z, 5.79);
+}
+
+TEST(SurfaceSensorPlane, TakesDirectionAndNormalOfAnObliqueWall) {
+    const Polygon2D triangle{{{0, 0}, {4, 0}, {4, 3}}, {}}; // its third wall runs from (4, 3) down
+    const std::vector<ZoneSurface> surfaces = BuildZoneSurfaces(triangle, 3.0, 2.8);
+    const SensorPlane plane = SurfaceSensorPlane(BuildSurfaceGrid(surfaces[2], 0.05), "");
+    EXPECT_DOUBLE_EQ(plane.directionX, -0.8);
+    EXPECT_DOUBLE_EQ(plane.directionY, -0.6);
+    EXPECT_DOUBLE_EQ(plane.normalX, 0.6);
+    EXPECT_DOUBLE_EQ(plane.normalY, -0.8);
+    EXPECT_DOUBLE_EQ(plane.originX, 4.006);
+    EXPECT_DOUBLE_EQ(plane.originY, 2.992);
 }
 
 } // namespace
