@@ -60,7 +60,8 @@ std::string LayerOf(const std::string& path) {
 }
 
 bool IsOperatingSystemHalf(const std::string& path) {
-    return path.ends_with("Posix.cpp") || path.ends_with("Windows.cpp");
+    const std::string name = path.substr(0, path.find_last_of('.'));
+    return name.ends_with("Posix") || name.ends_with("Windows");
 }
 
 struct Include {
