@@ -29,11 +29,12 @@ int CheckRadianceCommand(const CheckRadianceArguments& /*arguments*/) {
     if (installation.complete) {
         WorkFolder folder;
         std::string error;
-        if (!SharedWorkFolder("teste_radiance", folder, error)) {
+        if (!OpenSharedWorkFolder("teste_radiance", folder, error)) {
             TellError(error);
             return StatusFailed;
         }
         test = Simulation::RadianceSelfTest(installation, folder.path, Interrupted);
+        RemoveWorkFolder(folder);
         Commands::ReportLine(Simulation::TestLogLine(test));
     }
     if (Interrupted()) {

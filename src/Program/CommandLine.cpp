@@ -155,6 +155,20 @@ std::string Translate(const CLI::ParseError& refusal, const CLI::App& app) {
     return "linha de comando inválida";
 }
 
+/// The name of an option or argument that was given as an empty text, as a variable of a script
+/// that was never set makes it; empty when there is none.
+std::string NameWithoutValue(const CLI::App& app) {
+    for (const CLI::App* command : app.get_subcommands()) {
+        for (const CLI::Option* option : command->get_options()) {
+            const std::vector<std::string>& values = option->results();
+            if (std::find(values.begin(), values.end(), "") != values.end()) {
+                return option->get_name();
+            }
+        }
+    }
+    return {};
+}
+
 CommandLineResult WrongUse(const std::string& sentence, const CLI::App& app) {
     const std::vector<CLI::App*> given = app.get_subcommands();
     const std::string command = given.empty() ? "" : given.front()->get_name() + " ";
@@ -198,6 +212,9 @@ CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
         return WrongUse(Translate(refusal, app), app);
     }
 
+    if (const std::string name = NameWithoutValue(app); !name.empty()) {
+        return WrongUse(name + ": falta o valor", app);
+    }
     for (const Judgement& judge : line.judgements) {
         std::string error;
         if (!judge(error)) {

@@ -17,7 +17,7 @@ inline constexpr int StatusCancelled = 130;
 struct SimulateArguments {
     std::string sceneFile;
     std::string outputFolder;
-    std::string workFolder; ///< empty = one of its own, removed after success
+    std::string workFolder; ///< empty = one of its own, removed unless the run fails
     double scale = 0.0;     ///< scale denominator of the plans; 0 = chosen so that they fit
     std::uint32_t colorScale = 0;
     double valueSpacing = 0.0; ///< distance of written values [m]; 0 = none

@@ -3,7 +3,9 @@
 #include "Catalog/Json.hpp"
 #include "Document/IesReport.hpp"
 #include "Document/PolarCurve.hpp"
+#include "Document/ResultTable.hpp"
 #include "Drawing/PngWriter.hpp"
+#include "Program/Interrupt.hpp"
 #include "Program/Message.hpp"
 #include "Program/OutputFiles.hpp"
 #include "Text/Utf8.hpp"
@@ -23,7 +25,17 @@ std::string JoinParts(const std::vector<std::string>& parts) {
     return joined;
 }
 
-/// The curve of one file as a PNG, named after the file. False with the reason when it has none.
+/// A name for the curve of each file: two files of the same name in different folders must not
+/// share one.
+std::vector<std::string> CurveNames(const std::vector<std::string>& files) {
+    std::vector<std::string> titles;
+    for (const std::string& file : files) {
+        titles.push_back(std::filesystem::path(file).stem().string());
+    }
+    return Document::UniqueFileNames(titles, "-curva.png");
+}
+
+/// The curve of one file as a PNG. False with the reason when it has none.
 bool DrawCurve(const Document::IesReport& report, OutputFile& output, std::string& error) {
     const std::filesystem::path path(report.fileName);
     const std::string luminaire = Photometry::FindKeyword(report.file, "LUMINAIRE");
@@ -33,14 +45,15 @@ bool DrawCurve(const Document::IesReport& report, OutputFile& output, std::strin
         JoinParts({Photometry::FindKeyword(report.file, "MANUFAC"),
                    Photometry::FindKeyword(report.file, "LUMCAT"), path.filename().string()});
     Drawing::DisplayList list;
-    output.name = path.stem().string() + "-curva.png";
     return Document::BuildPolarCurve(report.file, style, list, error) &&
            Drawing::WritePng(list, output.bytes, error);
 }
 
-/// Writes the curve and tells where, on standard error in JSON mode. False when it could not.
-bool SaveCurve(const Document::IesReport& report, const IesArguments& arguments) {
-    OutputFile curve;
+/// Writes the curve under this name, and tells where unless a program reads the answer. False when
+/// it could not.
+bool SaveCurve(const Document::IesReport& report, const std::string& name,
+               const IesArguments& arguments) {
+    OutputFile curve{name, ""};
     std::string error;
     const std::wstring folder = Text::Widen(arguments.outputFolder);
     if (!DrawCurve(report, curve, error)) {
@@ -57,28 +70,43 @@ bool SaveCurve(const Document::IesReport& report, const IesArguments& arguments)
     return true;
 }
 
+/// Tells a person what a file holds, one blank line after the report before it.
+void TellReport(const Document::IesReport& report, bool& isFirst) {
+    if (!report.ok) {
+        TellError("\"" + report.fileName + "\": " + report.error);
+        return;
+    }
+    if (!isFirst) {
+        TellLine("");
+    }
+    isFirst = false;
+    for (const std::string& line : Document::IesReportLines(report)) {
+        TellLine(line);
+    }
+}
+
 } // namespace
 
 int IesCommand(const IesArguments& arguments) {
+    CatchInterrupts();
     bool allDone = true;
+    bool isFirst = true;
+    const std::vector<std::string> curveNames = CurveNames(arguments.files);
     Catalog::JsonValue reports = Catalog::JsonValue::MakeArray();
-    for (const std::string& name : arguments.files) {
-        const Document::IesReport report = Document::ReadIesReport(name);
+    for (std::size_t i = 0; i < arguments.files.size(); ++i) {
+        if (Interrupted()) {
+            TellError("leitura cancelada");
+            return StatusCancelled;
+        }
+        const Document::IesReport report = Document::ReadIesReport(arguments.files[i]);
         allDone = allDone && report.ok;
         if (arguments.json) {
             reports.items.push_back(Document::IesReportJson(report));
-        } else if (!report.ok) {
-            TellError("\"" + name + "\": " + report.error);
         } else {
-            for (const std::string& line : Document::IesReportLines(report)) {
-                TellLine(line);
-            }
+            TellReport(report, isFirst);
         }
         if (report.ok && arguments.curve) {
-            allDone = SaveCurve(report, arguments) && allDone;
-        }
-        if (!arguments.json && &name != &arguments.files.back()) {
-            TellLine("");
+            allDone = SaveCurve(report, curveNames[i], arguments) && allDone;
         }
     }
     if (arguments.json) {

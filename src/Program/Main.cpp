@@ -1,10 +1,13 @@
 #include "Program/CommandLine.hpp"
 #include "Program/Commands.hpp"
+#include "Program/Message.hpp"
 
 #include "Workbench/Session.hpp"
 #include "Workbench/SystemPlaces.hpp"
 
 #include <cstdio>
+#include <exception>
+#include <new>
 #include <string>
 #include <variant>
 #include <vector>
@@ -24,18 +27,32 @@ struct RunRequest {
     }
 };
 
-} // namespace
-
-int main(int argc, char** argv) {
+int RunProgram(const std::vector<std::string>& arguments) {
     Merivane::Workbench::SessionOptions session;
     session.preferencesFile = Merivane::Workbench::UserPreferencesFile();
     Merivane::Workbench::OpenSession(session);
 
-    const CommandLineResult line = ReadCommandLine(std::vector<std::string>(argv, argv + argc));
+    const CommandLineResult line = ReadCommandLine(arguments);
     std::fputs(line.output.c_str(), stdout);
     std::fputs(line.error.c_str(), stderr);
     const int status = std::visit(RunRequest{line.status}, line.request);
-    // What could not be written to standard output was not told.
     const bool told = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
-    return told || status != StatusDone ? status : StatusFailed;
+    if (told || status != StatusDone) {
+        return status;
+    }
+    TellError("não foi possível escrever na saída padrão");
+    return StatusFailed;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return RunProgram(std::vector<std::string>(argv, argv + argc));
+    } catch (const std::bad_alloc&) {
+        TellError("a memória não basta para este trabalho");
+    } catch (const std::exception& problem) {
+        TellError(std::string("erro inesperado: ") + problem.what());
+    }
+    return StatusFailed;
 }

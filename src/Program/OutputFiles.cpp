@@ -19,9 +19,15 @@ std::wstring BesidePlaceOf(const std::wstring& folder, const OutputFile& file) {
     return PlaceOf(folder, file) + L".parcial";
 }
 
-std::string CannotWrite(const std::wstring& path) {
+bool IsFolder(const std::wstring& path) {
+    std::error_code ignored; // a name that the system refuses is no folder either
+    return std::filesystem::is_directory(Text::Narrow(path), ignored);
+}
+
+std::string CannotWrite(const std::wstring& path, bool someStand) {
     return "não foi possível gravar \"" + Text::Narrow(path) +
-           "\" (disco cheio ou sem permissão); nada foi gravado";
+           "\" (disco cheio ou sem permissão); " +
+           (someStand ? "só parte dos resultados foi gravada" : "nada foi gravado");
 }
 
 } // namespace
@@ -30,7 +36,7 @@ bool PrepareOutputFolder(const std::wstring& folder, std::string& error) {
     const std::filesystem::path path(Text::Narrow(folder));
     std::error_code code;
     std::filesystem::create_directories(path, code);
-    if (!std::filesystem::is_directory(path, code)) {
+    if (!IsFolder(folder)) {
         error = "não foi possível criar a pasta \"" + Text::Narrow(folder) + "\"";
         return false;
     }
@@ -48,16 +54,15 @@ bool WriteOutputFiles(const std::wstring& folder, const std::vector<OutputFile>&
     bool written = true;
     for (const OutputFile& file : files) {
         const std::wstring beside = BesidePlaceOf(folder, file);
-        if (std::filesystem::is_directory(Text::Narrow(PlaceOf(folder, file))) ||
-            !Text::WriteFileFlushed(beside, file.bytes)) {
-            error = CannotWrite(PlaceOf(folder, file));
+        if (IsFolder(PlaceOf(folder, file)) || !Text::WriteFileFlushed(beside, file.bytes)) {
+            error = CannotWrite(PlaceOf(folder, file), false);
             written = false;
             break;
         }
     }
     for (const OutputFile& file : files) {
         if (written && !Text::RenameOver(BesidePlaceOf(folder, file), PlaceOf(folder, file))) {
-            error = CannotWrite(PlaceOf(folder, file));
+            error = CannotWrite(PlaceOf(folder, file), &file != &files.front());
             written = false;
         }
         if (!written) {

@@ -35,7 +35,6 @@ struct SimulateRun {
     Document::BuiltScene built;
     Radiance::Installation installation;
     WorkFolder workFolder;
-    bool keepWorkFolder = false; ///< it shows why the calculation failed
     Simulation::SimulationOptions options;
     Simulation::SimulationResult result;
     Document::RunRecord record;
@@ -44,6 +43,12 @@ struct SimulateRun {
 bool Refuse(const std::string& sentence) {
     TellError(sentence);
     return false;
+}
+
+/// Refuses, and says where the files of the calculation stay, which show why or hold its values.
+bool RefuseWithFiles(const SimulateRun& run, const std::string& sentence) {
+    return Refuse(sentence + " (arquivos do cálculo em \"" + Text::Narrow(run.workFolder.path) +
+                  "\")");
 }
 
 /// Reads everything that can be refused before any work is done.
@@ -86,13 +91,14 @@ bool ProveRadiance(SimulateRun& run) {
         return false;
     }
     if (!test.ran) {
-        return Refuse("o Radiance não conseguiu calcular: " + test.message);
+        return RefuseWithFiles(run, "o Radiance não conseguiu calcular: " + test.message);
     }
     if (!test.passed) {
-        return Refuse("o Radiance calcula errado: o teste deu " +
-                      Simulation::FormatDecimal(test.calculated, 2) + " lx onde o exato é " +
-                      Simulation::FormatDecimal(test.exact, 2) +
-                      " lx; reinstale-o e confira com \"vantoro verificar-radiance\"");
+        return RefuseWithFiles(
+            run, "o Radiance calcula errado: o teste deu " +
+                     Simulation::FormatDecimal(test.calculated, 2) + " lx onde o exato é " +
+                     Simulation::FormatDecimal(test.exact, 2) +
+                     " lx; reinstale-o e confira com \"vantoro verificar-radiance\"");
     }
     return true;
 }
@@ -124,10 +130,7 @@ bool Calculate(SimulateRun& run) {
     if (run.result.cancelled) {
         return false;
     }
-    run.keepWorkFolder = !run.result.success;
-    return run.result.success ||
-           Refuse("o cálculo falhou: " + run.result.error + " (arquivos em \"" +
-                  Text::Narrow(run.workFolder.path) + "\")");
+    return run.result.success || RefuseWithFiles(run, "o cálculo falhou: " + run.result.error);
 }
 
 void RecordRun(SimulateRun& run) {
@@ -150,13 +153,13 @@ bool Deliver(SimulateRun& run) {
     if (!BuildPlans(
             Document::AssemblePlans(run.document, run.built, run.result, run.record.notices),
             PlanStyleOf(run.arguments), files, error)) {
-        return Refuse(error);
+        return RefuseWithFiles(run, error);
     }
     if (Interrupted()) {
         return false;
     }
     if (!WriteOutputFiles(Text::Widen(run.arguments.outputFolder), files, error)) {
-        return Refuse(error);
+        return RefuseWithFiles(run, error);
     }
     if (run.arguments.json) {
         std::fputs(resultText.c_str(), stdout);
@@ -170,7 +173,7 @@ bool Deliver(SimulateRun& run) {
 
 int SimulateCommand(const SimulateArguments& arguments) {
     CatchInterrupts();
-    SimulateRun run{arguments, {}, {}, {}, {}, false, {}, {}, {}};
+    SimulateRun run{arguments, {}, {}, {}, {}, {}, {}, {}};
     if (!ReadInput(run) || !FindRadiance(run)) {
         return StatusFailed;
     }
@@ -182,7 +185,7 @@ int SimulateCommand(const SimulateArguments& arguments) {
     ChooseOptions(run);
     RecordRun(run);
     const bool done = ProveRadiance(run) && Calculate(run) && Deliver(run);
-    if (!run.keepWorkFolder) {
+    if (done || Interrupted()) {
         RemoveWorkFolder(run.workFolder);
     }
     if (done) {

@@ -13,18 +13,19 @@ namespace {
 
 constexpr int MostFoldersAtOnce = 10000;
 
-/// Makes "simular-N" with the first free N. Making a folder is what tells whether it was free, so
-/// that two runs never get the same one.
+/// Makes "vantoro-N" with the first free N. Making a folder is what tells whether it was free, so
+/// that two runs never get the same one. It stands in the temporary folder itself: one below would
+/// belong to whoever made it, and lock out every other user of the machine.
 bool MakeOwnFolder(const std::filesystem::path& parent, WorkFolder& folder, std::string& error) {
     std::error_code code;
     std::filesystem::create_directories(parent, code);
     for (int number = 1; number <= MostFoldersAtOnce; ++number) {
-        const std::filesystem::path path = parent / ("simular-" + std::to_string(number));
+        const std::filesystem::path path = parent / ("vantoro-" + std::to_string(number));
         if (std::filesystem::create_directory(path, code)) {
             folder = {Text::Widen(path.string()), true};
             return true;
         }
-        if (code) {
+        if (!std::filesystem::exists(path, code)) {
             break;
         }
     }
@@ -38,7 +39,7 @@ bool FindTemporaryFolder(std::filesystem::path& folder, std::string& error) {
         error = "a pasta temporária do sistema não foi encontrada";
         return false;
     }
-    folder = std::filesystem::path(Text::Narrow(temporary)) / "Vantoro";
+    folder = std::filesystem::path(Text::Narrow(temporary));
     return true;
 }
 
@@ -55,13 +56,13 @@ bool OpenWorkFolder(const std::string& named, WorkFolder& folder, std::string& e
     return FindTemporaryFolder(parent, error) && MakeOwnFolder(parent, folder, error);
 }
 
-bool SharedWorkFolder(const std::string& name, WorkFolder& folder, std::string& error) {
-    std::filesystem::path parent;
-    if (!FindTemporaryFolder(parent, error)) {
+bool OpenSharedWorkFolder(const std::string& name, WorkFolder& folder, std::string& error) {
+    std::filesystem::path temporary;
+    if (!FindTemporaryFolder(temporary, error)) {
         return false;
     }
-    folder = {Text::Widen((parent / name).string()), false};
-    return true;
+    folder = {Text::Widen((temporary / "Vantoro" / name).string()), false};
+    return PrepareOutputFolder(folder.path, error) || MakeOwnFolder(temporary, folder, error);
 }
 
 void RemoveWorkFolder(const WorkFolder& folder) {

@@ -15,9 +15,10 @@ struct WorkFolder {
 /// be written in.
 bool OpenWorkFolder(const std::string& named, WorkFolder& folder, std::string& error);
 
-/// The folder `name` in the add-on's folder of the system's temporary folder. Returns false with
-/// one Portuguese sentence when the system names none.
-bool SharedWorkFolder(const std::string& name, WorkFolder& folder, std::string& error);
+/// The folder `name` in the add-on's folder of the system's temporary folder; where that belongs to
+/// another user of the machine, a new one of this run's own. Returns false as `OpenWorkFolder`
+/// does.
+bool OpenSharedWorkFolder(const std::string& name, WorkFolder& folder, std::string& error);
 
 /// Removes a folder of the run's own with all in it; a folder that the user named stays.
 void RemoveWorkFolder(const WorkFolder& folder);

@@ -33,6 +33,28 @@ TEST(CheckRadiance, FindsTheInstallationBesideTheProgramAndCalculates) {
     EXPECT_NE(end.output.find("exato 9,0 lx"), std::string::npos) << end.output;
 }
 
+TEST(CheckRadiance, WorksWhereItsSharedFolderCannotBeMade) {
+    const TemporaryFolder temporary;
+    WriteBytes(temporary.Path() / "Vantoro", "of another user of the machine");
+    ProgramCall call;
+    call.prelude = "export TMPDIR=" + ShellWord(temporary.Path().string()) + ";";
+    const ProgramEnd end = RunVantoro({"verificar-radiance"}, call);
+    EXPECT_EQ(end.status, 0) << end.error;
+    EXPECT_EQ(FirstLine(end.output), "✓  Radiance instalado corretamente e calculando.");
+    EXPECT_FALSE(std::filesystem::exists(temporary.Path() / "vantoro-1"));
+}
+
+TEST(CheckRadiance, StopsOnInterruptAndSaysSo) {
+    const TemporaryFolder place;
+    ProgramCall call;
+    call.program = CopyProgram(place.Path());
+    ReplaceTool(call.program, "oconv", "kill -INT $PPID\nsleep 60\n");
+    const ProgramEnd end = RunVantoro({"verificar-radiance"}, call);
+    EXPECT_EQ(end.status, 130);
+    EXPECT_EQ(end.output, "");
+    EXPECT_EQ(end.error, "vantoro: verificação cancelada.\n");
+}
+
 TEST(CheckRadiance, SaysThatThereIsNone) {
     const ProgramEnd end = CheckWithTool("rtrace", "");
     EXPECT_EQ(end.status, 1);

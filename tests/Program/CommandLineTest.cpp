@@ -31,6 +31,12 @@ TEST(CommandLine, RefusesWrongUseWithStatus2AndOneSentence) {
          "vantoro: --valores: \"-1\" não é um número maior que zero" + simulateHint},
         {{"simular", "a.json", "--saida", "x", "--paleta", "rosa"},
          "vantoro: --paleta: \"rosa\" não existe (use espectro, calor ou cinza)" + simulateHint},
+        {{"simular", "a.json", "--saida", ""}, "vantoro: --saida: falta o valor" + simulateHint},
+        {{"simular", "", "--saida", "x"}, "vantoro: CENA: falta o valor" + simulateHint},
+        {{"simular", "a.json", "--saida", "x", "--escala", ""},
+         "vantoro: --escala: falta o valor" + simulateHint},
+        {{"simular", "a.json", "--saida", "x", "--pasta-de-trabalho", ""},
+         "vantoro: --pasta-de-trabalho: falta o valor" + simulateHint},
         {{"ies"}, "vantoro: falta ARQUIVO.\nVeja \"vantoro ies --ajuda\".\n"},
         {{"verificar-radiance", "agora"},
          "vantoro: argumento desconhecido: agora.\nVeja \"vantoro verificar-radiance --ajuda\".\n"},
@@ -65,6 +71,16 @@ TEST(CommandLine, ShowsNoEnglishWordInAnyHelp) {
                                        "TEXT", "Print", "SUBCOMMAND", "Subcommands"}) {
             EXPECT_EQ(end.output.find(word), std::string::npos) << word << "\n" << end.output;
         }
+    }
+}
+
+TEST(CommandLine, FailsWithOneSentenceWhenStandardOutputIsFull) {
+    ProgramCall call;
+    call.output = "/dev/full";
+    for (const std::string flag : {"--versao", "--ajuda"}) {
+        const ProgramEnd end = RunVantoro({flag}, call);
+        EXPECT_EQ(end.status, 1);
+        EXPECT_EQ(end.error, "vantoro: não foi possível escrever na saída padrão.\n");
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -18,6 +19,13 @@ namespace {
 std::string ReadIfThere(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// A shell can't take back that it was started with a signal ignored, so this process must.
+void HeedSignals() {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+        std::signal(signal, SIG_DFL);
+    }
 }
 
 } // namespace
@@ -47,9 +55,11 @@ ProgramEnd RunVantoro(const std::vector<std::string>& arguments, const ProgramCa
     for (const std::string& argument : arguments) {
         command += " " + ShellWord(argument);
     }
-    command += " </dev/null >" + ShellWord((own.Path() / "out").string()) + " 2>" +
+    const std::filesystem::path output = call.output.empty() ? own.Path() / "out" : call.output;
+    command += " </dev/null >" + ShellWord(output.string()) + " 2>" +
                ShellWord((own.Path() / "err").string());
 
+    HeedSignals();
     const int ended = std::system(command.c_str());
     ProgramEnd end;
     end.status = WIFEXITED(ended) ? WEXITSTATUS(ended) : 128 + WTERMSIG(ended);

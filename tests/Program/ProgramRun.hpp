@@ -17,17 +17,19 @@ struct ProgramEnd {
 struct ProgramCall {
     std::filesystem::path program; ///< empty = the one of this build
     std::filesystem::path folder;  ///< working folder; empty = the test's own
+    std::filesystem::path output;  ///< file for standard output; empty = it comes back in the end
     std::string prelude;           ///< shell commands before it ("ulimit -f 8;")
 };
 
 /// Calls `vantoro` with the arguments and waits for its end. Its temporary and configuration
-/// folders are fresh ones.
+/// folders are fresh ones, and every signal does what it does in a terminal, also where these tests
+/// run in the background.
 ProgramEnd RunVantoro(const std::vector<std::string>& arguments, const ProgramCall& call = {});
 
 /// `text` as one word of the shell.
 std::string ShellWord(const std::string& text);
 
-/// Number of processes of this system whose command line holds `text`.
+/// Number of processes of this system whose command line or environment holds `text`.
 int ProcessesWith(const std::string& text);
 
 } // namespace Merivane::Tests

@@ -6,9 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <csignal>
+#include <chrono>
 #include <filesystem>
 #include <set>
+#include <string>
+#include <thread>
 
 namespace Merivane::Tests {
 
@@ -36,6 +38,18 @@ struct SampleRun {
     TemporaryFolder folder;
     std::filesystem::path scene = WriteSampleScene(folder.Path());
     std::filesystem::path out = folder.Path() / "saida";
+    std::filesystem::path temporary = folder.Path() / "tmp"; ///< the system's, where it is set
+
+    SampleRun() { std::filesystem::create_directory(temporary); }
+
+    std::string SetTemporary() const {
+        return "export TMPDIR=" + ShellWord(temporary.string()) + ";";
+    }
+
+    /// How a refusal ends that names the folder with the files of the calculation.
+    std::string FilesSentence() const {
+        return " (arquivos do cálculo em \"" + (temporary / "vantoro-1").string() + "\").\n";
+    }
 
     std::vector<std::string> Arguments(const std::vector<std::string>& more = {}) const {
         std::vector<std::string> arguments = {"simular", scene.string(), "--saida", out.string()};
@@ -49,9 +63,31 @@ ProgramEnd RunWithTool(const SampleRun& run, const std::string& tool, const std:
     const TemporaryFolder place;
     ProgramCall call;
     call.program = CopyProgram(place.Path());
-    call.prelude = "PATH=/usr/bin:/bin; unset RADIANCE;";
+    call.prelude = "PATH=/usr/bin:/bin; unset RADIANCE;" + run.SetTemporary();
     ReplaceTool(call.program, tool, script);
     return RunVantoro(run.Arguments(), call);
+}
+
+/// `rtrace` that is the real one for the version and the self-test, and otherwise runs `script`.
+std::string RtraceThat(const std::string& script) {
+    // The self-test's scene has no material called Branco.
+    return "if [ \"$1\" = -version ] || ! grep -q Branco materials.rad; then exec " +
+           RealTool("rtrace") + " \"$@\"; fi\n" + script + "\n";
+}
+
+/// True when within 5 s no process of the test with this mark is left: one that was killed needs a
+/// moment to go.
+bool AllGone(const std::string& mark) {
+    for (int i = 0; i < 500 && ProcessesWith(mark) > 0; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return ProcessesWith(mark) == 0;
+}
+
+/// Seconds since 1970, as `date +%s.%N` gives them.
+double SystemSeconds() {
+    return std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch())
+        .count();
 }
 
 void ExpectNothingWritten(const SampleRun& run) {
@@ -124,11 +160,45 @@ TEST(Simulate, KeepsAWorkFolderThatTheUserNamedAndRemovesItsOwn) {
     EXPECT_EQ(RunVantoro(run.Arguments({"--pasta-de-trabalho", work.string()})).status, 0);
     EXPECT_EQ(NamesIn(work).count("illuminance.txt"), 1U);
 
-    const TemporaryFolder temporary;
     ProgramCall call;
-    call.prelude = "export TMPDIR=" + ShellWord(temporary.Path().string()) + ";";
+    call.prelude = run.SetTemporary();
     EXPECT_EQ(RunVantoro(run.Arguments(), call).status, 0);
-    EXPECT_EQ(NamesIn(temporary.Path() / "Vantoro"), std::set<std::string>{});
+    EXPECT_EQ(NamesIn(run.temporary), std::set<std::string>{});
+}
+
+TEST(Simulate, WorksWhereAnotherRunAndAnotherUserLeftTheirFolders) {
+    const SampleRun run;
+    WriteBytes(run.temporary / "Vantoro", "nothing can be made below it");
+    std::filesystem::create_directory(run.temporary / "vantoro-1");
+    WriteBytes(run.temporary / "vantoro-2", "a file");
+    ProgramCall call;
+    call.prelude = run.SetTemporary();
+    const ProgramEnd end = RunVantoro(run.Arguments(), call);
+    EXPECT_EQ(end.status, 0) << end.error;
+    EXPECT_EQ(NamesIn(run.temporary), (std::set<std::string>{"Vantoro", "vantoro-1", "vantoro-2"}));
+    EXPECT_EQ(NamesIn(run.temporary / "vantoro-1"), std::set<std::string>{});
+}
+
+TEST(Simulate, RefusesATemporaryFolderThatCannotBeWrittenIn) {
+    const SampleRun run;
+    const std::string place = (run.scene / "tmp").string(); // below a file
+    ProgramCall call;
+    call.prelude = "export TMPDIR=" + ShellWord(place) + ";";
+    const ProgramEnd end = RunVantoro(run.Arguments(), call);
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error,
+              "vantoro: não foi possível criar uma pasta de trabalho em \"" + place + "\".\n");
+    ExpectNothingWritten(run);
+}
+
+TEST(Simulate, FailsWhenItsAnswerCannotBeWritten) {
+    const SampleRun run;
+    ProgramCall call;
+    call.output = "/dev/full";
+    const ProgramEnd end = RunVantoro(run.Arguments({"--json"}), call);
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error, "vantoro: não foi possível escrever na saída padrão.\n");
+    EXPECT_EQ(NamesIn(run.out), AllOutputs); // which were whole before
 }
 
 TEST(Simulate, LeavesOtherFilesOfTheOutputFolderAlone) {
@@ -175,13 +245,32 @@ TEST(Simulate, LeavesNothingHalfWrittenOnAFullDisk) {
     const SampleRun run;
     ProgramCall call;
     // No file may grow past 16 blocks of 512 bytes: the octree fits, the pictures do not.
-    call.prelude = "trap '' XFSZ; ulimit -f 16;";
+    call.prelude = "trap '' XFSZ; ulimit -f 16;" + run.SetTemporary();
     const ProgramEnd end = RunVantoro(run.Arguments({"--silencioso"}), call);
     EXPECT_EQ(end.status, 1);
-    EXPECT_NE(end.error.find("não foi possível gravar \"" + run.out.string()), std::string::npos)
+    EXPECT_TRUE(
+        end.error.starts_with("vantoro: não foi possível gravar \"" + run.out.string() + "/"))
+        << end.error;
+    EXPECT_TRUE(end.error.ends_with("\" (disco cheio ou sem permissão); nada foi gravado" +
+                                    run.FilesSentence()))
         << end.error;
     EXPECT_EQ(std::count(end.error.begin(), end.error.end(), '\n'), 1) << end.error;
     ExpectNothingWritten(run);
+    // What was calculated is not lost.
+    EXPECT_EQ(NamesIn(run.temporary / "vantoro-1").count("illuminance.txt"), 1U);
+}
+
+TEST(Simulate, WritesNothingWhereAFolderStandsInThePlaceOfAResult) {
+    const SampleRun run;
+    std::filesystem::create_directories(run.out / "planta.png");
+    WriteBytes(run.out / "Sala.csv", "velha");
+    const ProgramEnd end = RunVantoro(run.Arguments({"--silencioso"}));
+    EXPECT_EQ(end.status, 1);
+    EXPECT_NE(end.error.find("não foi possível gravar \"" + (run.out / "planta.png").string()),
+              std::string::npos)
+        << end.error;
+    EXPECT_EQ(NamesIn(run.out), (std::set<std::string>{"planta.png", "Sala.csv"}));
+    EXPECT_EQ(ReadBytes(run.out / "Sala.csv"), "velha");
 }
 
 TEST(Simulate, SaysThatThereIsNoRadiance) {
@@ -211,48 +300,70 @@ TEST(Simulate, RefusesAnEngineThatCalculatesWrongly) {
             RealTool("rtrace") + " \"$@\" | awk '{ print $1 * 0.36, $2 * 0.36, $3 * 0.36 }'\n");
     EXPECT_EQ(end.status, 1);
     EXPECT_EQ(end.error, "vantoro: o Radiance calcula errado: o teste deu 3,24 lx onde o exato é "
-                         "8,99 lx; reinstale-o e confira com \"vantoro verificar-radiance\".\n");
+                         "8,99 lx; reinstale-o e confira com \"vantoro verificar-radiance\"" +
+                             run.FilesSentence());
+    ExpectNothingWritten(run);
+}
+
+TEST(Simulate, RefusesAnEngineThatDoesNotCalculate) {
+    const SampleRun run;
+    const ProgramEnd end = RunWithTool(run, "oconv", "echo 'oconv: fatal - nada' >&2\nexit 1\n");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error, "vantoro: o Radiance não conseguiu calcular: montagem da cena (oconv): "
+                         "oconv terminou com erro 1: oconv: fatal - nada" +
+                             run.FilesSentence());
+    EXPECT_EQ(NamesIn(run.temporary / "vantoro-1"), std::set<std::string>{"teste_radiance"});
     ExpectNothingWritten(run);
 }
 
 TEST(Simulate, SaysWhichProgramWasKilledFromOutside) {
     const SampleRun run;
-    // The self-test's scene has no material called Branco; only the real run is killed.
-    const ProgramEnd end =
-        RunWithTool(run, "rtrace",
-                    "if [ \"$1\" = -version ] || ! grep -q Branco materials.rad; then exec " +
-                        RealTool("rtrace") + " \"$@\"; fi\nkill -9 $$\n");
+    const ProgramEnd end = RunWithTool(run, "rtrace", RtraceThat("kill -9 $$"));
     EXPECT_EQ(end.status, 1);
-    EXPECT_NE(end.error.find("vantoro: o cálculo falhou: calculo (rtrace): rtrace terminou com "
-                             "erro 137 (arquivos em \""),
-              std::string::npos)
-        << end.error;
+    EXPECT_EQ(end.error, "Preparando a cena (luminárias e geometria)\nPontos de cálculo (118)\n"
+                         "vantoro: o cálculo falhou: calculo (rtrace): rtrace terminou com "
+                         "erro 137" +
+                             run.FilesSentence());
+    EXPECT_EQ(NamesIn(run.temporary / "vantoro-1").count("scene.oct"), 1U);
     ExpectNothingWritten(run);
 }
 
 TEST(Simulate, StopsOnInterruptWithinFiveSecondsAndLeavesNoChild) {
-    for (const std::string signal : {"INT", "TERM"}) {
+    for (const std::string signal : {"INT", "TERM", "HUP"}) {
+        SCOPED_TRACE(signal);
         const SampleRun run;
         const TemporaryFolder place;
+        const std::string mark = "VANTORO_TEST_MARK=" + place.Path().string();
+        const std::string begun = ShellWord((place.Path() / "begun").string());
+        const std::string asked = ShellWord((place.Path() / "asked").string());
         ProgramCall call;
         call.program = CopyProgram(place.Path());
-        ReplaceTool(call.program, "rtrace",
-                    "if [ \"$1\" = -version ] || ! grep -q Branco materials.rad; then exec " +
-                        RealTool("rtrace") + " \"$@\"; fi\ntouch " +
-                        ShellWord((place.Path() / "started").string()) + "\nsleep 60\n");
+        ReplaceTool(call.program, "rtrace", RtraceThat("touch " + begun + "\nsleep 60"));
         // A watcher sends the signal once the calculation has begun and notes when.
-        call.prelude = "export VANTORO_TEST_MARK=" + ShellWord(place.Path().string()) +
-                       "; me=$$; (while [ ! -e " + ShellWord((place.Path() / "started").string()) +
-                       " ]; do sleep 0.05; done; kill -" + signal + " $me) >/dev/null 2>&1 &";
-        const auto started = std::chrono::steady_clock::now();
+        call.prelude = run.SetTemporary() + "export " + mark + "; me=$$; (while [ ! -e " + begun +
+                       " ]; do sleep 0.05; done; date +%s.%N >" + asked + "; kill -" + signal +
+                       " $me) >/dev/null 2>&1 &";
         const ProgramEnd end = RunVantoro(run.Arguments({"--silencioso"}), call);
-        const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - started;
+        const double ended = SystemSeconds();
         EXPECT_EQ(end.status, 130);
-        EXPECT_LT(elapsed.count(), 10.0); // of which the run up to the signal takes some
         EXPECT_EQ(end.error, "vantoro: cálculo cancelado; nada foi gravado.\n");
-        EXPECT_EQ(ProcessesWith("VANTORO_TEST_MARK=" + place.Path().string()), 0);
+        EXPECT_LT(ended - std::stod("0" + ReadBytes(place.Path() / "asked")), 5.0);
+        EXPECT_TRUE(AllGone(mark));
+        EXPECT_EQ(NamesIn(run.temporary), std::set<std::string>{});
         ExpectNothingWritten(run);
     }
+}
+
+TEST(Simulate, GoesOnWhereItWasStartedWithTheInterruptIgnored) {
+    const SampleRun run;
+    const TemporaryFolder place;
+    ProgramCall call;
+    call.program = CopyProgram(place.Path());
+    ReplaceTool(call.program, "rtrace",
+                RtraceThat("kill -INT $PPID\nexec " + RealTool("rtrace") + " \"$@\""));
+    call.prelude = "trap '' INT;";
+    EXPECT_EQ(RunVantoro(run.Arguments({"--silencioso"}), call).status, 0);
+    EXPECT_EQ(NamesIn(run.out), AllOutputs);
 }
 
 } // namespace Merivane::Tests
