@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <ctime>
 #include <filesystem>
 #include <regex>
 #include <sstream>
@@ -10,6 +11,7 @@
 #include <vector>
 
 #include "Support/Places.hpp"
+#include "Support/Variable.hpp"
 #include "Text/NativePath.hpp"
 #include "Workbench/Session.hpp"
 
@@ -55,6 +57,13 @@ protected:
         return lines;
     }
 
+    /// A time of UTC as the log writes times.
+    static std::string ClockAt(std::time_t time) {
+        char text[9] = {};
+        std::strftime(text, sizeof text, "%H:%M:%S", std::gmtime(&time));
+        return text;
+    }
+
     Tests::TemporaryFolder folder;
 };
 
@@ -76,6 +85,23 @@ TEST_F(RunLog, WritesTheBytesOfATextAsTheyAre) {
     AppendLog("a.txt", "", false);
     AppendLog("a.txt", "luminária \xF0\x9F\x98\x80 \xFF 100% \t", false);
     EXPECT_EQ(LinesOf("a.txt"), (Lines{"", "luminária \xF0\x9F\x98\x80 \xFF 100% \t"}));
+}
+
+TEST_F(RunLog, TellsTheLocalTime) {
+    struct Zone {
+        const char* name;
+        int seconds; // ahead of UTC
+    };
+    for (const Zone& zone : {Zone{"AAA-05:30", 19800}, Zone{"BBB+03", -10800}}) {
+        const Tests::Variable here("TZ", zone.name);
+        ::tzset();
+        const std::string before = ClockAt(std::time(nullptr) + zone.seconds);
+        AppendLog("a.txt", "um", true);
+        const std::string after = ClockAt(std::time(nullptr) + zone.seconds);
+        const std::string bytes = Tests::ReadBytes(LogFolder() / "a.txt");
+        EXPECT_TRUE(bytes == before + "  um\n" || bytes == after + "  um\n") << bytes;
+    }
+    ::tzset();
 }
 
 TEST_F(RunLog, BeginsTheFilesOfACommandAnewAndGoesOnWithTheHistory) {

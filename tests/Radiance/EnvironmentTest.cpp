@@ -1,6 +1,6 @@
 #include "Radiance/Environment.hpp"
 
-#include "Radiance/Variable.hpp"
+#include "Support/Variable.hpp"
 
 #include <gtest/gtest.h>
 

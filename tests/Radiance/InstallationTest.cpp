@@ -1,8 +1,8 @@
 #include "Radiance/Installation.hpp"
 
 #include "Radiance/Scripts.hpp"
-#include "Radiance/Variable.hpp"
 #include "Support/Places.hpp"
+#include "Support/Variable.hpp"
 #include "Text/NativePath.hpp"
 
 #include <gtest/gtest.h>
@@ -148,6 +148,7 @@ TEST_F(FindInstallationIn, TheLibFolderStandsBesideTheBinFolder) {
     for (const char* ending : {"", "/", "//"}) {
         const Variable search("PATH", File("rad/bin").string() + ending);
         EXPECT_EQ(FindInstallation(L"").libFolder, L"");
+        EXPECT_TRUE(FindInstallation(L"").complete); // it does without
     }
     WriteBytes(File("rad/lib"), "a file, no folder");
     const Variable search("PATH", File("rad/bin").string());
@@ -187,6 +188,31 @@ TEST_F(FindInstallationIn, TheVersionIsTheFirstLineOfWhatRtraceSays) {
         }
         EXPECT_EQ(FindInstallation(L"").version, expected) << c.body;
     }
+}
+
+TEST_F(FindInstallationIn, AFolderOfThePathStandsAsItIsWritten) {
+    MakeTools("rad/bin", RequiredTools());
+    std::filesystem::create_directory(File("rad/lib"));
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Path());
+    const Variable search("PATH", "rad/bin");
+    const Installation found = FindInstallation(L"");
+    std::filesystem::current_path(before);
+    EXPECT_TRUE(found.complete);
+    EXPECT_EQ(found.binFolder, L"rad/bin");
+    EXPECT_EQ(found.libFolder, L"rad/lib");
+    EXPECT_EQ(found.version, "RADIANCE 6.0.2");
+}
+
+TEST_F(FindInstallationIn, AProgramThatHangsIsGivenTenSecondsAndHasNoVersion) {
+    MakeTools("bin", RequiredTools(), "echo 'RADIANCE 6'; exec sleep 60");
+    const Variable search("PATH", File("bin").string() + ":/usr/bin:/bin");
+    Installation found;
+    const double time = Milliseconds([&] { found = FindInstallation(L""); });
+    EXPECT_GE(time, 10000.0);
+    EXPECT_LT(time, 15000.0);
+    EXPECT_EQ(found.version, "");
+    EXPECT_TRUE(found.complete);
 }
 
 TEST_F(FindInstallationIn, AProgramThatDoesNotStartHasNoVersion) {

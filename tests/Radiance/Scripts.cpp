@@ -35,12 +35,16 @@ bool IsRunning(int id) {
     return name != std::string::npos && stat[name + 2] != 'Z' && stat[name + 2] != 'X';
 }
 
+bool HoldsALine(const std::filesystem::path& path) {
+    std::ifstream file(path);
+    std::string line;
+    return std::getline(file, line) && !file.eof();
+}
+
 int AwaitNumber(const std::filesystem::path& path) {
     for (int i = 0; i < PausesInFiveSeconds; ++i) {
-        std::ifstream file(path);
-        std::string line;
-        if (std::getline(file, line) && !file.eof()) {
-            return std::atoi(line.c_str());
+        if (HoldsALine(path)) {
+            return std::atoi(ReadBytes(path).c_str());
         }
         std::this_thread::sleep_for(Pause);
     }

@@ -53,7 +53,7 @@ TEST(PreferencesFile, RefusesEveryOtherForm) {
 
 TEST(PreferencesFile, RefusesATextCutAtAnyPlace) {
     const std::string text = FormatPreferences({3, "bloco"});
-    for (std::size_t length = 0; length + 2 < text.size(); ++length) { // "}\n" at the end
+    for (std::size_t length = 0; length + 1 < text.size(); ++length) { // "\n" at the end
         Preferences read;
         EXPECT_FALSE(ParsePreferences(text.substr(0, length), read)) << length;
     }

@@ -2,41 +2,21 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <optional>
 #include <string>
-#include <utility>
 
+#include "Support/Variable.hpp"
 #include "Text/NativePath.hpp"
 
 namespace Merivane::Workbench {
 namespace {
 
-/// An environment variable for the length of a test.
-class Variable {
-public:
-    Variable(std::string variableName, const char* value) : name(std::move(variableName)) {
-        if (const char* const present = std::getenv(name.c_str())) {
-            before = present;
-        }
-        Set(value);
-    }
-    ~Variable() { Set(before ? before->c_str() : nullptr); }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
+using Tests::Variable;
 
-private:
-    void Set(const char* value) {
-        if (value) {
-            ::setenv(name.c_str(), value, 1);
-        } else {
-            ::unsetenv(name.c_str());
-        }
-    }
-
-    std::string name;
-    std::optional<std::string> before;
-};
+/// The value of a case; null where the variable is not set.
+std::optional<std::string> Value(const char* text) {
+    return text ? std::optional<std::string>(text) : std::nullopt;
+}
 
 TEST(SystemPlaces, KnowsTheRunningProgram) {
     EXPECT_EQ(Text::NativePath(ExecutablePath()).filename(), "WorkbenchTests");
@@ -52,7 +32,7 @@ TEST(SystemPlaces, TakesTheTemporaryFolderFromTheEnvironment) {
         {"relativa", L"/tmp"}, {"/a/b", L"/a/b"}, {"/a/b//", L"/a/b"},
     };
     for (const Case& c : cases) {
-        const Variable variable("TMPDIR", c.variable);
+        const Variable variable("TMPDIR", Value(c.variable));
         EXPECT_EQ(SystemTemporaryFolder(), c.folder);
     }
 }
@@ -72,8 +52,8 @@ TEST(SystemPlaces, PutsPreferencesIntoTheConfigurationFolder) {
         {nullptr, "relativa", L""},
     };
     for (const Case& c : cases) {
-        const Variable configuration("XDG_CONFIG_HOME", c.configuration);
-        const Variable home("HOME", c.home);
+        const Variable configuration("XDG_CONFIG_HOME", Value(c.configuration));
+        const Variable home("HOME", Value(c.home));
         EXPECT_EQ(UserPreferencesFile(), c.file);
     }
 }
