@@ -6,135 +6,187 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <memory>
 
 namespace Merivane::Simulation {
 
 namespace {
 
-/// Rings with more vertices get rows of their own.
+/// Rings with more vertices get their edges sorted.
 constexpr std::size_t LargeRing = 24;
 
-constexpr std::uint32_t NoEntry = 0xFFFFFFFF;
-
-/// Things by number, in every row that they touch. Each row is a list, so that nothing need be
-/// counted first.
-struct RowLists {
-    struct Entry {
-        std::uint32_t thing;
-        std::uint32_t next;
-    };
-
-    double bottom = 0.0;
-    double rowsPerMetre = 1.0;
-    double last = 0.0;                ///< number of the last row
-    std::vector<std::uint32_t> heads; ///< by row, and one list more that is never read
-    std::vector<Entry> entries;
+struct Edge {
+    Point2D a;
+    Point2D b;
 };
 
-RowLists LayRows(double bottom, double top, double height, std::size_t things) {
+/// Rows of equal height.
+struct Rows {
+    double bottom = 0.0;
+    double perMetre = 1.0;
+    double last = 0.0; ///< number of the last row
+};
+
+/// Things by row, each in every row that it touches: those of row r are `items[starts[r]]` up to
+/// `items[starts[r + 1]]`.
+template <typename Item> struct Sorted {
+    Rows rows;
+    std::vector<std::uint32_t> starts;
+    std::vector<Item> items;
+};
+
+Rows LayRows(double bottom, double top, double height) {
     constexpr double mostRows = 65536;
-    RowLists rows;
+    Rows rows;
     rows.bottom = bottom;
-    rows.rowsPerMetre = 1.0 / std::max(height, (top - bottom) / mostRows);
-    rows.last = std::trunc((top - bottom) * rows.rowsPerMetre);
-    rows.heads.assign(static_cast<std::size_t>(rows.last) + 2, NoEntry);
-    rows.entries.reserve(2 * things + rows.heads.size());
+    rows.perMetre = 1.0 / std::max(height, (top - bottom) / mostRows);
+    rows.last = std::trunc((top - bottom) * rows.perMetre);
     return rows;
 }
 
 /// Never falls as y rises, so what passes the height of a point shares that point's row. Cut off,
 /// not rounded down by `floor`, which is a call where the processor has no instruction.
-std::uint32_t RowOf(const RowLists& rows, double y) {
-    const double row = (y - rows.bottom) * rows.rowsPerMetre;
+std::uint32_t RowOf(const Rows& rows, double y) {
+    const double row = (y - rows.bottom) * rows.perMetre;
     return static_cast<std::uint32_t>(std::min(std::max(row, 0.0), rows.last));
 }
 
-void Put(RowLists& rows, std::uint32_t row, std::uint32_t thing) {
-    const auto number = static_cast<std::uint32_t>(rows.entries.size());
-    rows.entries.push_back({thing, rows.heads[row]});
-    rows.heads[row] = number;
+/// Sorts things into rows. `forEach(take)` calls take(item, first row, last row) for each, the same
+/// ones in the same order each time. Most touch one or two rows, as good as at random, so that two
+/// are always taken; where there is one, the second is a row behind the last that nobody reads.
+template <typename Item, typename ForEach>
+Sorted<Item> SortIntoRows(const Rows& rows, ForEach forEach) {
+    const auto unread = static_cast<std::uint32_t>(rows.last) + 1;
+    Sorted<Item> sorted{rows, {}, {}};
+    // Counted two places on, so that filling moves each start to where it belongs.
+    sorted.starts.assign(unread + 3, 0);
+    forEach([&](const Item&, std::uint32_t first, std::uint32_t last) {
+        ++sorted.starts[first + 2];
+        ++sorted.starts[(last == first ? unread : last) + 2];
+        for (std::uint32_t row = first + 1; row < last; ++row) {
+            ++sorted.starts[row + 2];
+        }
+    });
+    for (std::size_t r = 2; r < sorted.starts.size(); ++r) {
+        sorted.starts[r] += sorted.starts[r - 1];
+    }
+    sorted.items.resize(sorted.starts.back());
+    forEach([&](const Item& item, std::uint32_t first, std::uint32_t last) {
+        sorted.items[sorted.starts[first + 1]++] = item;
+        sorted.items[sorted.starts[(last == first ? unread : last) + 1]++] = item;
+        for (std::uint32_t row = first + 1; row < last; ++row) {
+            sorted.items[sorted.starts[row + 1]++] = item;
+        }
+    });
+    return sorted;
 }
 
-/// Puts a thing into the rows `low` to `high`. Most touch one or two, as good as at random, so two
-/// are always written, into the list that is never read where there is only one.
-void PutInto(RowLists& rows, std::uint32_t low, std::uint32_t high, std::uint32_t thing) {
-    const auto unread = static_cast<std::uint32_t>(rows.heads.size() - 1);
-    Put(rows, low, thing);
-    Put(rows, high == low ? unread : high, thing);
-    for (std::uint32_t row = low + 1; row < high; ++row) {
-        Put(rows, row, thing);
+template <typename Item> std::span<const Item> RowAt(const Sorted<Item>& sorted, double y) {
+    const std::uint32_t row = RowOf(sorted.rows, y);
+    return {sorted.items.data() + sorted.starts[row], sorted.starts[row + 1] - sorted.starts[row]};
+}
+
+template <typename Take> void ForEachEdge(std::span<const Point2D> ring, Take take) {
+    Point2D a = ring.back();
+    for (const Point2D& b : ring) {
+        take(Edge{a, b});
+        a = b;
     }
 }
 
-/// Edge n of a ring ends in vertex n.
-RowLists SortEdges(const OuterRing& ring, double rowHeight) {
-    const auto& [points, measure] = ring;
-    RowLists rows = LayRows(measure.bottom, measure.top, rowHeight, points.size());
-    std::uint32_t before = RowOf(rows, points.back().y);
-    for (std::uint32_t n = 0; n < points.size(); ++n) {
-        const std::uint32_t here = RowOf(rows, points[n].y);
-        PutInto(rows, std::min(before, here), std::max(before, here), n);
-        before = here;
-    }
-    return rows;
+Sorted<Edge> SortEdges(const OuterRing& ring, double rowHeight) {
+    const Rows rows = LayRows(ring.measure.bottom, ring.measure.top, rowHeight);
+    return SortIntoRows<Edge>(rows, [&](auto take) {
+        std::uint32_t before = RowOf(rows, ring.points.back().y);
+        ForEachEdge(ring.points, [&](const Edge& edge) {
+            const std::uint32_t here = RowOf(rows, edge.b.y);
+            take(edge, std::min(before, here), std::max(before, here));
+            before = here;
+        });
+    });
 }
 
-RowLists SortBoxes(std::span<const OuterRing> outers, double rowHeight) {
+/// An outer ring in a row of boxes.
+struct BoxInRow {
+    double left = 0.0;
+    double right = 0.0;
+    double bottom = 0.0;
+    double top = 0.0;
+    std::uint32_t outer = 0;
+
+    /// Beside a box a ray meets nothing of its ring or, as that is closed, an even number of edges.
+    bool Has(Point2D p) const {
+        return (p.x >= left) & (p.x < right) & (p.y >= bottom) & (p.y < top);
+    }
+};
+
+Sorted<BoxInRow> SortBoxes(std::span<const OuterRing> outers, double rowHeight) {
     double bottom = std::numeric_limits<double>::infinity();
     double top = -bottom;
     for (const OuterRing& outer : outers) {
         bottom = std::min(bottom, outer.measure.bottom);
         top = std::max(top, outer.measure.top);
     }
-    RowLists rows = LayRows(bottom, top, rowHeight, outers.size());
-    for (std::uint32_t o = 0; o < outers.size(); ++o) {
-        const RingMeasure& box = outers[o].measure;
-        PutInto(rows, RowOf(rows, box.bottom), RowOf(rows, box.top), o);
+    const Rows rows = LayRows(bottom, top, rowHeight);
+    return SortIntoRows<BoxInRow>(rows, [&](auto take) {
+        for (std::uint32_t o = 0; o < outers.size(); ++o) {
+            const RingMeasure& box = outers[o].measure;
+            take(BoxInRow{box.left, box.right, box.bottom, box.top, o}, RowOf(rows, box.bottom),
+                 RowOf(rows, box.top));
+        }
+    });
+}
+
+/// Counts the edges that a ray from a point towards +x meets.
+struct RayCount {
+    Point2D p;
+    unsigned met = 0;    ///< edges that pass the point's height on its right
+    unsigned beside = 0; ///< edges that pass it between their ends: right or left remains open
+
+    /// Without a branch: which edges pass is as good as random.
+    void Add(const Edge& edge) {
+        const unsigned passes = (edge.a.y > p.y) ^ (edge.b.y > p.y) ? 1 : 0;
+        const unsigned aRight = edge.a.x > p.x ? 1 : 0;
+        const unsigned bRight = edge.b.x > p.x ? 1 : 0;
+        met += passes & aRight & bRight;
+        beside += passes & (aRight ^ bRight);
     }
-    return rows;
-}
 
-/// True when a ray from `p` towards +x meets the edge. Only an edge beside whose ends `p` lies
-/// needs the place where it is met.
-bool RayMeets(Point2D a, Point2D b, Point2D p) {
-    const bool passes = (a.y > p.y) != (b.y > p.y);
-    bool right = a.x > p.x;
-    if (right != (b.x > p.x)) {
-        right = a.x + (p.y - a.y) * (b.x - a.x) / (b.y - a.y) > p.x;
+    /// For the edges that `Add` left open.
+    void AddOpen(const Edge& edge) {
+        const auto& [a, b] = edge;
+        if ((a.y > p.y) != (b.y > p.y) && (a.x > p.x) != (b.x > p.x)) {
+            met += a.x + (p.y - a.y) * (b.x - a.x) / (b.y - a.y) > p.x ? 1 : 0;
+        }
     }
-    return passes & right;
-}
+};
 
-bool Contains(std::span<const Point2D> ring, Point2D p) {
-    bool odd = false;
-    Point2D a = ring.back();
-    for (const Point2D& b : ring) {
-        odd ^= RayMeets(a, b, p);
-        a = b;
+/// Even-odd rule over the edges that `forEach` hands out.
+template <typename ForEach> bool IsInside(Point2D p, ForEach forEach) {
+    RayCount count{p};
+    forEach([&](const Edge& edge) { count.Add(edge); });
+    if (count.beside > 0) {
+        forEach([&](const Edge& edge) { count.AddOpen(edge); });
     }
-    return odd;
+    return count.met % 2 != 0;
 }
 
-bool Contains(std::span<const Point2D> ring, const RowLists& rows, Point2D p) {
-    bool odd = false;
-    std::uint32_t e = rows.heads[RowOf(rows, p.y)];
-    while (e != NoEntry) {
-        const auto [n, next] = rows.entries[e];
-        odd ^= RayMeets(ring[n > 0 ? n - 1 : ring.size() - 1], ring[n], p);
-        e = next;
+/// `edges` keeps the sorted edges of a large ring, from the first time that it is asked for.
+bool Contains(const OuterRing& ring, std::unique_ptr<Sorted<Edge>>& edges, Point2D p,
+              double rowHeight) {
+    if (ring.points.size() <= LargeRing) {
+        return IsInside(p, [&](auto take) { ForEachEdge(ring.points, take); });
     }
-    return odd;
+    if (edges == nullptr) {
+        edges = std::make_unique<Sorted<Edge>>(SortEdges(ring, rowHeight));
+    }
+    const std::span<const Edge> row = RowAt(*edges, p.y);
+    return IsInside(p, [&](auto take) { std::for_each(row.begin(), row.end(), take); });
 }
 
-bool InBox(const RingMeasure& box, Point2D p) {
-    return (p.x >= box.left) & (p.x < box.right) & (p.y >= box.bottom) & (p.y < box.top);
-}
-
-/// True when outer ring `a` is to be preferred to `b`.
+/// True when outer ring `a` is to be preferred to `b`, which may be none.
 bool IsNearer(std::span<const OuterRing> outers, std::size_t a, std::size_t b) {
-    const double areaA = outers[a].measure.area;
-    const double areaB = outers[b].measure.area;
-    return areaA < areaB || (areaA == areaB && a < b);
+    return b == NoOwner || outers[a].measure.area < outers[b].measure.area;
 }
 
 } // namespace
@@ -162,26 +214,16 @@ std::vector<std::size_t> FindOwners(std::span<const Point2D> points,
     if (points.empty() || outers.empty()) {
         return owners;
     }
-    const RowLists boxes = SortBoxes(outers, rowHeight);
-    std::vector<RowLists> edges; // of the large rings that were asked for
-    std::vector<std::uint32_t> edgesOf(outers.size(), NoEntry);
+    const Sorted<BoxInRow> boxes = SortBoxes(outers, rowHeight);
+    std::vector<std::unique_ptr<Sorted<Edge>>> edges(outers.size());
     for (std::size_t k = 0; k < points.size(); ++k) {
         const Point2D p = points[k];
-        std::uint32_t e = boxes.heads[RowOf(boxes, p.y)];
-        while (e != NoEntry) {
-            const auto [o, next] = boxes.entries[e];
-            e = next;
-            const OuterRing& outer = outers[o];
-            if (!InBox(outer.measure, p) ||
-                (owners[k] != NoOwner && !IsNearer(outers, o, owners[k]))) {
+        for (const BoxInRow& box : RowAt(boxes, p.y)) {
+            const std::uint32_t o = box.outer;
+            if (!box.Has(p) || !IsNearer(outers, o, owners[k])) {
                 continue;
             }
-            const bool large = outer.points.size() > LargeRing;
-            if (large && edgesOf[o] == NoEntry) {
-                edgesOf[o] = static_cast<std::uint32_t>(edges.size());
-                edges.push_back(SortEdges(outer, rowHeight));
-            }
-            if (large ? Contains(outer.points, edges[edgesOf[o]], p) : Contains(outer.points, p)) {
+            if (Contains(outers[o], edges[o], p, rowHeight)) {
                 owners[k] = o;
             }
         }
