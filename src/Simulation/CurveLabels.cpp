@@ -12,10 +12,12 @@ constexpr std::size_t FewestPoints = 6;
 constexpr double LeastDistance = 0.35; // [m]
 constexpr double NoLabelYet = 1e9;     // [m]
 
-double DistanceToNearest(const std::vector<Point2D>& placed, Point2D point) {
+/// Distance to the nearest label; any value up to `enough` when a label is that near, as the point
+/// is then no better than one already found.
+double DistanceToNearest(const std::vector<Point2D>& placed, Point2D point, double enough) {
     double nearest = NoLabelYet;
-    for (const Point2D& label : placed) {
-        nearest = std::min(nearest, std::hypot(point.x - label.x, point.y - label.y));
+    for (auto label = placed.begin(); label != placed.end() && nearest > enough; ++label) {
+        nearest = std::min(nearest, std::hypot(point.x - label->x, point.y - label->y));
     }
     return nearest;
 }
@@ -27,7 +29,7 @@ std::optional<Point2D> ChoosePoint(const IsoCurve& curve, const std::vector<Poin
     Point2D best;
     double farthest = -1.0;
     for (const Point2D& point : curve.points) {
-        const double distance = DistanceToNearest(placed, point);
+        const double distance = DistanceToNearest(placed, point, farthest);
         if (distance > farthest) {
             farthest = distance;
             best = point;
