@@ -108,7 +108,8 @@ struct JsonParseResult {
     bool ok = false;
     /// When not `ok`: what is wrong, in Portuguese without accents, and where, to stand inside a
     /// longer sentence: "esperava ':' (byte 17)". The byte counts from 0 at the start of the text,
-    /// a byte order mark included, and is that of the first byte that can't be accepted.
+    /// a byte order mark included, and is that of the first byte that can't be accepted. A number,
+    /// a literal and the second half of a surrogate pair are refused at their own first byte.
     std::string error;
 };
 

@@ -1,11 +1,12 @@
 #include "Catalog/Json.hpp"
 
+#include "Catalog/JsonPlainText.hpp"
+#include "Text/Ascii.hpp"
+#include "Text/Utf8.hpp"
+
 #include <charconv>
 #include <system_error>
 #include <utility>
-
-#include "Catalog/JsonPlainText.hpp"
-#include "Text/Utf8.hpp"
 
 namespace Merivane::Catalog {
 
@@ -13,10 +14,6 @@ namespace {
 
 constexpr int DeepestLevel = 64;
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 // Recursive descent: the depth limit bounds the stack. Each reader leaves `position` behind what it
 // read; one that refuses leaves it at the byte it can't accept, with the reason in `message`.
@@ -32,6 +29,8 @@ private:
     bool ParseArray(JsonValue& value, int depth);
     bool ParseObject(JsonValue& value, int depth);
     bool ParseMember(JsonValue& value, int depth);
+    template <typename ParseElement>
+    bool ParseElements(char close, const char* expected, const ParseElement& parseElement);
     bool ParseString(std::string& string);
     bool ParseEscape(std::string& string);
     bool ParseCodePoint(std::string& string);
@@ -99,8 +98,8 @@ bool Parser::ParseValue(JsonValue& value, int depth) {
     case 'n':
         return ParseLiteral("null", JsonKind::Null, value);
     default:
-        return text[position] == '-' || IsDigit(text[position]) ? ParseNumber(value)
-                                                                : Fail("valor inesperado");
+        return text[position] == '-' || Text::IsDigit(text[position]) ? ParseNumber(value)
+                                                                      : Fail("valor inesperado");
     }
 }
 
@@ -115,49 +114,38 @@ bool Parser::ParseLiteral(std::string_view literal, JsonKind kind, JsonValue& va
 
 bool Parser::ParseArray(JsonValue& value, int depth) {
     value.kind = JsonKind::Array;
-    ++position;
-    SkipWhiteSpace();
-    if (Next(']')) {
-        ++position;
-        return true;
-    }
-    for (;;) {
-        SkipWhiteSpace();
-        if (!ParseValue(value.items.emplace_back(), depth + 1)) {
-            return false;
-        }
-        SkipWhiteSpace();
-        if (Next(']')) {
-            ++position;
-            return true;
-        }
-        if (!Next(',')) {
-            return Fail("esperava ',' ou ']'");
-        }
-        ++position;
-    }
+    return ParseElements(']', "esperava ',' ou ']'", [this, &value, depth] {
+        return ParseValue(value.items.emplace_back(), depth + 1);
+    });
 }
 
 bool Parser::ParseObject(JsonValue& value, int depth) {
     value.kind = JsonKind::Object;
+    return ParseElements('}', "esperava ',' ou '}'",
+                         [this, &value, depth] { return ParseMember(value, depth); });
+}
+
+// The whole of an array or object, from its opening bracket on.
+template <typename ParseElement>
+bool Parser::ParseElements(char close, const char* expected, const ParseElement& parseElement) {
     ++position;
     SkipWhiteSpace();
-    if (Next('}')) {
+    if (Next(close)) {
         ++position;
         return true;
     }
     for (;;) {
         SkipWhiteSpace();
-        if (!ParseMember(value, depth)) {
+        if (!parseElement()) {
             return false;
         }
         SkipWhiteSpace();
-        if (Next('}')) {
+        if (Next(close)) {
             ++position;
             return true;
         }
         if (!Next(',')) {
-            return Fail("esperava ',' ou '}'");
+            return Fail(expected);
         }
         ++position;
     }
@@ -259,7 +247,7 @@ bool Parser::ParseHexDigits(char32_t& code) {
     for (std::size_t i = 0; i < Count; ++i) {
         const char c = text[position];
         char32_t digit = 0;
-        if (IsDigit(c)) {
+        if (Text::IsDigit(c)) {
             digit = static_cast<char32_t>(c - '0');
         } else if (c >= 'a' && c <= 'f') {
             digit = static_cast<char32_t>(c - 'a' + 10);
@@ -281,7 +269,7 @@ bool Parser::ParseNumber(JsonValue& value) {
         ++position;
     }
     const auto belongs = [](char c) {
-        return IsDigit(c) || c == '.' || c == 'e' || c == 'E' || c == '+' || c == '-';
+        return Text::IsDigit(c) || c == '.' || c == 'e' || c == 'E' || c == '+' || c == '-';
     };
     while (!AtEnd() && belongs(text[position])) {
         ++position;

@@ -1,10 +1,10 @@
 #include "Catalog/Json.hpp"
 
-#include <algorithm>
-#include <cmath>
-
 #include "Catalog/JsonPlainText.hpp"
 #include "Text/Number.hpp"
+
+#include <algorithm>
+#include <cmath>
 
 namespace Merivane::Catalog {
 
