@@ -10,7 +10,7 @@ namespace Merivane::Photometry {
 namespace {
 
 constexpr std::string_view LineEnd = "\r\n";
-constexpr std::size_t NumbersOnALine = 10; // keeps lines below the 132 characters of LM-63-1995
+constexpr std::size_t NumbersOnALine = 10; // common tables keep to 132 characters (LM-63-1995)
 
 void AppendKeywordLine(std::string& text, std::string_view key, std::string_view value) {
     text += '[';

@@ -1,13 +1,13 @@
 #include "Photometry/LuminaireRotation.hpp"
 
+#include "Photometry/PhotometricQuantities.hpp"
+
 #include <algorithm>
 #include <cmath>
 
 namespace Merivane::Photometry {
 
 namespace {
-
-constexpr double RadiansInADegree = 0.017453292519943295;
 
 RotationMatrix AboutZ(double degrees) {
     const double c = std::cos(degrees * RadiansInADegree);

@@ -14,7 +14,6 @@ namespace Merivane::Photometry {
 namespace {
 
 constexpr double MetresInAFoot = 0.3048;
-constexpr double RadiansInADegree = std::numbers::pi / 180.0;
 constexpr double UnknownBeamHalfAngle = 45.0; // [deg]
 
 bool HasWholeTypeCTable(const IesFile& file) {

@@ -6,6 +6,9 @@
 
 namespace Merivane::Photometry {
 
+/// One degree in radians.
+inline constexpr double RadiansInADegree = 0.017453292519943295;
+
 /// Angles that differ by no more than this are one direction in all of photometry [deg].
 inline constexpr double AngleTolerance = 1e-6;
 

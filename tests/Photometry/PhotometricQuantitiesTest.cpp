@@ -17,8 +17,6 @@ using std::numbers::pi;
 using Tests::MakeTable;
 using Tests::Steps;
 
-constexpr double RadiansInADegree = pi / 180.0;
-
 TEST(AnglesEqual, HoldsUpToAMillionthOfADegree) {
     EXPECT_TRUE(AnglesEqual(90.0, 90.0));
     EXPECT_TRUE(AnglesEqual(0.0, 1e-6));
@@ -97,6 +95,22 @@ TEST(TotalFlux, IsZeroForASingleVerticalAngle) {
     EXPECT_EQ(TotalFlux(MakeTable({0}, {0, 90}, [](double, double) { return 9.0; })), 0.0);
 }
 
+TEST(TotalFlux, TakesNothingFromASegmentThatDoesNotRise) {
+    const auto one = [](double, double) { return 1.0; };
+    EXPECT_NEAR(TotalFlux(MakeTable({0, 90, 90, 180}, {0}, one)), 4 * pi, 1e-12);
+    EXPECT_NEAR(TotalFlux(MakeTable({0, 180, 90}, {0}, one)), 4 * pi, 1e-12);
+}
+
+// Planes closer than two angles can be told apart are no part of a circle to complete.
+TEST(TotalFlux, CompletesTheCircleOnlyFromPlanesThatDiffer) {
+    const auto one = [](double, double) { return 1.0; };
+    const auto sphere = [&one](double last) {
+        return TotalFlux(MakeTable({0, 180}, {0, last}, one));
+    };
+    EXPECT_NEAR(sphere(1.01e-6), 4 * pi, 1e-9);
+    EXPECT_NEAR(sphere(0.99e-6), 2 * 0.99e-6 * RadiansInADegree, 1e-20);
+}
+
 TEST(TotalFlux, IsMinusOneForWhatCannotBeIntegrated) {
     const IesFile whole = MakeTable({0, 90}, {0, 90}, [](double, double) { return 1.0; });
     const auto with = [&whole](const auto& change) {
@@ -171,6 +185,12 @@ TEST(BeamHalfAngle, IsWhereTheMeanFallsToHalf) {
         EXPECT_NEAR(BeamHalfAngle(OnePlane(c.angles, c.values)), c.halfAngle, 1e-12)
             << ::testing::PrintToString(c.angles) << ::testing::PrintToString(c.values);
     }
+}
+
+TEST(BeamHalfAngle, IsAWholeDegreeWhereTheFallCannotBeMeasured) {
+    IesFile file = OnePlane({0, 90}, {100, 100});
+    file.candelaMultiplier = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(BeamHalfAngle(file), 1.0); // half of infinity is reached at once
 }
 
 TEST(BeamHalfAngle, TakesTheMeanOfThePlanes) {
