@@ -58,9 +58,16 @@ TEST(JsonParse, ReadsAValueOfAnyKindAtTheTop) {
 }
 
 TEST(JsonParse, ReplacesWhatTheValueHeldBefore) {
-    JsonValue value = Parsed(R"({"a": [1, 2]})");
-    ASSERT_TRUE(JsonParse("[3]", value).ok);
-    EXPECT_EQ(JsonWrite(value), "[\n\t3\n]\n");
+    const std::pair<const char*, const char*> cases[] = {
+        {"[1, 2]", "[\n\t3\n]\n"}, {R"({"a": 1, "b": 2})", "{\n\t\"b\": 3\n}\n"},
+        {"\"text\"", "\"x\"\n"},   {"true", "false\n"},
+        {"7", "null\n"},
+    };
+    for (const auto& [before, after] : cases) {
+        JsonValue value = Parsed(before);
+        ASSERT_TRUE(JsonParse(after, value).ok);
+        EXPECT_EQ(JsonWrite(value), after);
+    }
 }
 
 TEST(JsonParse, PassesAByteOrderMarkAndFourKindsOfWhiteSpace) {

@@ -111,6 +111,45 @@ TEST(JsonValue, IsCopiedWhole) {
     EXPECT_EQ(JsonWrite(copy), JsonWrite(original));
 }
 
+TEST(JsonValue, TakesEveryKindByCopyAndByMove) {
+    for (const char* text :
+         {"null\n", "true\n", "2.5\n", "\"x\"\n", "[\n\t1\n]\n", "{\n\t\"k\": 1\n}\n"}) {
+        SCOPED_TRACE(text);
+        JsonValue original;
+        ASSERT_TRUE(JsonParse(text, original).ok);
+        for (const JsonValue& before : {JsonValue::MakeBool(false), JsonValue::MakeString("old")}) {
+            JsonValue copied = before;
+            copied = original;
+            EXPECT_EQ(JsonWrite(copied), text);
+            JsonValue moved = before;
+            moved = std::move(copied);
+            EXPECT_EQ(JsonWrite(moved), text);
+        }
+    }
+}
+
+TEST(JsonMembers, AreWalkedInOrderAndCopiedAndMovedAsAWhole) {
+    JsonValue object;
+    const auto keysOf = [](const JsonMembers& members) {
+        std::string keys;
+        for (const JsonMember& member : members) {
+            keys += member.key;
+        }
+        return keys;
+    };
+    EXPECT_EQ(keysOf(object.members), "");
+    for (const char* key : {"c", "a", "b"}) {
+        object.Set(key, JsonValue::MakeNumber(1));
+    }
+    JsonMembers copy;
+    copy = object.members;
+    copy.Set("d", JsonValue());
+    EXPECT_EQ(keysOf(object.members), "cab");
+    EXPECT_EQ(keysOf(copy), "cabd");
+    const JsonMembers moved = std::move(copy);
+    EXPECT_EQ(keysOf(moved), "cabd");
+}
+
 TEST(JsonValue, CanBeGivenOneOfItsOwnChildren) {
     JsonValue value;
     ASSERT_TRUE(JsonParse(R"([[1, 2], {"a": "long enough to live on the heap"}])", value).ok);

@@ -17,9 +17,39 @@ TEST(IesFile, StartsWithTheDefaultsOfTheFormat) {
     EXPECT_EQ(file.candelaMultiplier, 1.0);
     EXPECT_EQ(file.photometricType, 1);
     EXPECT_EQ(file.unitsType, 2);
+    EXPECT_EQ(file.width, 0.0);
+    EXPECT_EQ(file.length, 0.0);
+    EXPECT_EQ(file.height, 0.0);
     EXPECT_EQ(file.ballastFactor, 1.0);
     EXPECT_EQ(file.futureUse, 1.0);
     EXPECT_EQ(file.inputWatts, 0.0);
+}
+
+// Compiles only while the fields stand in this order.
+TEST(IesFile, HoldsItsFieldsInTheOrderOfTheFile) {
+    const IesFile file = {.formatVersion = 0,
+                          .keywords = {},
+                          .otherLines = {},
+                          .tiltMode = 0,
+                          .tiltFile = {},
+                          .tiltGeometry = 0,
+                          .tiltAngles = {},
+                          .tiltFactors = {},
+                          .lampCount = 0,
+                          .lumensPerLamp = 0.0,
+                          .candelaMultiplier = 0.0,
+                          .photometricType = 0,
+                          .unitsType = 0,
+                          .width = 0.0,
+                          .length = 0.0,
+                          .height = 0.0,
+                          .ballastFactor = 0.0,
+                          .futureUse = 0.0,
+                          .inputWatts = 0.0,
+                          .verticalAngles = {},
+                          .horizontalAngles = {},
+                          .candela = {{7.0}}};
+    EXPECT_EQ(file.candela[0][0], 7.0);
 }
 
 TEST(FindKeyword, ComparesExactlyAndTakesTheFirst) {

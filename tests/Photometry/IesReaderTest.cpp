@@ -326,11 +326,11 @@ TEST(IesReader, TakesForWholeWhatRoundsToIt) {
         bool whole;
     };
     const Case cases[] = {
-        {"3.0", true},          {"0.3e1", true},        {"3.0000000005", true},
-        {"2.9999999995", true}, {"3.000000002", false}, {"2.999999998", false},
-        {"3.5", false},         {"2000000000", false},  {"1000000001", false},
-        {"-1000000001", false}, {"inf", false},         {"-inf", false},
-        {"nan", false},         {"1e300", false},
+        {"3.0", true},           {"0.3e1", true},          {"3.00000000099", true},
+        {"2.99999999901", true}, {"3.00000000101", false}, {"2.99999999899", false},
+        {"3.5", false},          {"2000000000", false},    {"1000000001", false},
+        {"-1000000001", false},  {"inf", false},           {"-inf", false},
+        {"nan", false},          {"1e300", false},
     };
     for (const Case& c : cases) {
         const Reading r = Read(TextWithNumber(3, c.token));
@@ -340,6 +340,7 @@ TEST(IesReader, TakesForWholeWhatRoundsToIt) {
             << c.token;
     }
     EXPECT_EQ(Read(TextWithNumber(0, "1000000000")).file.lampCount, 1000000000);
+    EXPECT_EQ(Read(TextWithNumber(0, "-1000000000")).file.lampCount, -1000000000);
     EXPECT_EQ(Read(TextWithNumber(0, "1e2")).file.lampCount, 100);
 }
 
@@ -478,6 +479,7 @@ TEST(IesReader, JudgesLampCountMultiplierAndCandelaAtZero) {
         {2, "1e-300", ""},
         {2, "0", "multiplicador de candela nao positivo"},
         {2, "-1", "multiplicador de candela nao positivo"},
+        {2, "nan", ""}, // neither zero nor negative
         {1, "-1", ""},
     };
     for (const Case& c : cases) {
@@ -549,16 +551,25 @@ TEST(IesReader, NeverWarnsOfASingleHorizontalAngleNorOfVerticalsFrom90To90) {
     }
 }
 
+const std::string TypeAOrB =
+    "fotometria tipo A/B (projetores/automotiva): o calculo de fluxo so cobre o tipo C";
+
 TEST(IesReader, AcceptsTypesAAndBWithoutARangeCheck) {
     for (const int type : {2, 3}) {
         const Reading r = Read(TwoByTwo(type, "-90 17", "-5 5"));
         EXPECT_TRUE(r.result.ok);
         EXPECT_EQ(r.file.photometricType, type);
-        EXPECT_EQ(
-            r.result.warnings,
-            Texts{"fotometria tipo A/B (projetores/automotiva): o calculo de fluxo so cobre o "
-                  "tipo C"});
+        EXPECT_EQ(r.result.warnings, Texts{TypeAOrB});
     }
+}
+
+TEST(IesReader, WarnsOfTypesAAndBLastOfAll) {
+    const Reading r = Read(Header + "0 1000 -1 2 1 3 2 0 0 0 1 1 0\n-90 90\n0\n-5 6\n7\n");
+    ASSERT_TRUE(r.result.ok) << r.result.error;
+    EXPECT_EQ(r.result.warnings,
+              (Texts{"1 valor(es) depois da tabela de candela, ignorado(s)",
+                     "numero de lampadas menor que 1", "multiplicador de candela nao positivo",
+                     "ha valores de candela negativos", TypeAOrB}));
 }
 
 TEST(IesReader, ResetsWhateverTheRecordHeld) {

@@ -51,6 +51,18 @@ TEST(WriteIes, WritesTheWholeFileInOneForm) {
                               "180\r\n");
 }
 
+TEST(WriteIes, WritesEmptyLinesOfAKeywordWithoutABlank) {
+    IesFile file = OnePlane();
+    file.keywords = {{"A", "x\n\ny\n"}, {"B", "\nz"}};
+    const std::string text = WriteIes(file);
+    EXPECT_EQ(text.substr(0, text.find("TILT")), "IESNA:LM-63-2002\r\n"
+                                                 "[A] x\r\n[MORE]\r\n[MORE] y\r\n[MORE]\r\n"
+                                                 "[B]\r\n[MORE] z\r\n");
+    IesFile back;
+    ASSERT_TRUE(ReadIes(text, back).ok);
+    EXPECT_EQ(back.keywords, file.keywords);
+}
+
 TEST(WriteIes, WritesTiltData) {
     IesFile file = OnePlane();
     file.tiltMode = 1;

@@ -78,6 +78,23 @@ TEST(FileBytes, SaysWhenItCannotWrite) {
     }
 }
 
+TEST(WriteFileFlushed, WritesAsWriteFileBytesDoes) {
+    const TemporaryFolder folder;
+    const auto path = folder.Path() / "a.txt";
+    WriteBytes(path, "old, longer");
+    EXPECT_TRUE(WriteFileFlushed(Wide(path), "new"));
+    EXPECT_EQ(ReadBytes(path), "new");
+    EXPECT_FALSE(WriteFileFlushed(Wide(folder.Path() / "none" / "a"), "1"));
+}
+
+TEST(WriteFileFlushed, SaysWhenTheBytesCannotBeBroughtToADisk) {
+    if (!std::filesystem::exists("/dev/null")) {
+        GTEST_SKIP() << "no device here that takes bytes and has no disk";
+    }
+    EXPECT_TRUE(WriteFileBytes(L"/dev/null", "1"));
+    EXPECT_FALSE(WriteFileFlushed(L"/dev/null", "1"));
+}
+
 TEST(ReplaceFile, WritesTheFileWholeAndLeavesNothingBeside) {
     const TemporaryFolder folder;
     const auto path = folder.Path() / "a.txt";

@@ -282,6 +282,23 @@ TEST(ReadNumber, ReadsLongDigitRunsAsStrtodDoes) {
     }
 }
 
+TEST(ReadNumber, WeighsManyZerosAgainstAHugeExponentAsStrtodDoes) {
+    const std::string small = "0." + std::string(5000, '0') + "1";
+    const std::string large = "1" + std::string(5000, '0');
+    for (const char* token : {"e4000", "e9999"}) {
+        ExpectAsStrtod(small + token);
+    }
+    for (const char* token : {"e-4000", "e-9999"}) {
+        ExpectAsStrtod(large + token);
+    }
+    for (const char* token : {"p19000", "p30000"}) {
+        ExpectAsStrtod(("0x" + small).append(token));
+    }
+    for (const char* token : {"p-19000", "p-30000"}) {
+        ExpectAsStrtod(("0x" + large).append(token));
+    }
+}
+
 TEST(ReadNumber, StopsAtTheEndOfTheViewAndNotAtThatOfTheBytesBehindIt) {
     const std::string bytes = "12.75e3";
     double value = 0.0;
