@@ -53,10 +53,9 @@ enum class MeshBorder { None, Corners };
 /// band by band, in a band along the cell's perimeter.
 struct ContourMesh {
     std::unique_ptr<MeshVertex[]> vertices;
-    std::unique_ptr<MeshLinks[]>
-        links;               ///< apart from the vertices: who follows them wants few bytes
-    std::uint32_t count = 0; ///< of vertices and of links
-    std::vector<std::int32_t> reached; ///< per node: how many levels its value reaches, -1 for NaN
+    std::unique_ptr<MeshLinks[]> links; ///< not in the vertices: who follows them wants few bytes
+    std::uint32_t count = 0;            ///< of vertices and of links, below 2^30
+    std::vector<std::int32_t> reached;  ///< per node: how many levels its value reaches, -1 for NaN
 };
 
 /// True when the field can be contoured: it has a grid of at least 2 x 2 nodes and a value for each

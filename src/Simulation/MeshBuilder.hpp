@@ -15,7 +15,7 @@ namespace Merivane::Simulation {
 enum CellWork : std::uint8_t {
     Nothing, ///< no level runs through it
     Inner,   ///< crossings on its right and top edges only
-    Outer    ///< it stands on the edge of the area that has values
+    Outer    ///< more: it stands on the edge of the area that has values
 };
 
 /// Working state of one `BuildContourMesh`. A cell needs the numbers of crossings on its own four

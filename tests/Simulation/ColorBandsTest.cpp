@@ -191,9 +191,9 @@ GridField MakeRoom(const CalculationGrid& grid, bool holes, double noise) {
 double CoveredArea(const GridField& field) {
     const CalculationGrid& grid = *field.grid;
     int cells = 0;
-    for (int j = 0; j + 1 < grid.rows; ++j) {
-        for (int i = 0; i + 1 < grid.columns; ++i) {
-            const double* low = &field.values[static_cast<std::size_t>(j * grid.columns + i)];
+    for (std::ptrdiff_t j = 0; j + 1 < grid.rows; ++j) {
+        for (std::ptrdiff_t i = 0; i + 1 < grid.columns; ++i) {
+            const double* low = field.values.data() + j * grid.columns + i;
             const double* high = low + grid.columns;
             cells += std::isnan(low[0] + low[1] + high[0] + high[1]) ? 0 : 1;
         }

@@ -135,7 +135,7 @@ std::string Difference(const std::vector<ColorBand>& fast, const std::vector<Col
         return std::to_string(fast.size()) + " bands, not " + std::to_string(slow.size());
     }
     for (std::size_t k = 0; k < fast.size(); ++k) {
-        const std::string where = "band " + std::to_string(slow[k].index);
+        std::string where = "band " + std::to_string(slow[k].index);
         if (fast[k].index != slow[k].index || fast[k].lower != slow[k].lower ||
             fast[k].upper != slow[k].upper || fast[k].polygons.size() != slow[k].polygons.size()) {
             return where;
@@ -143,7 +143,10 @@ std::string Difference(const std::vector<ColorBand>& fast, const std::vector<Col
         for (std::size_t p = 0; p < fast[k].polygons.size(); ++p) {
             const auto difference = Difference(fast[k].polygons[p], slow[k].polygons[p]);
             if (!difference.empty()) {
-                return where + ", polygon " + std::to_string(p) + ", " + difference;
+                return where.append(", polygon ")
+                    .append(std::to_string(p))
+                    .append(", ")
+                    .append(difference);
             }
         }
     }

@@ -14,6 +14,7 @@ namespace {
 
 std::vector<OuterRing> Measured(const std::vector<Ring>& rings) {
     std::vector<OuterRing> outers;
+    outers.reserve(rings.size());
     for (const Ring& ring : rings) {
         outers.push_back({ring, MeasureRing(ring)});
     }
@@ -90,10 +91,12 @@ TEST(FindOwners, GivesWhatLookingThroughEveryEdgeGives) {
     std::uniform_real_distribution<double> unit(0.0, 10.0);
     for (int round = 0; round < 60; ++round) {
         std::vector<Ring> rings;
+        rings.reserve(12);
         for (std::size_t k = 0; k < 12; ++k) {
             rings.push_back(Star({unit(random), unit(random)}, 3 + random() % 60, random));
         }
         std::vector<Point2D> points;
+        points.reserve(62);
         for (int k = 0; k < 60; ++k) {
             points.push_back({unit(random), unit(random)});
         }
