@@ -1,15 +1,15 @@
 // Real photometric files, from file to lux.
 
+#include <algorithm>
+#include <map>
+
+#include <gtest/gtest.h>
+
 #include "Photometry/CandelaLookup.hpp"
 #include "Photometry/IesReader.hpp"
 #include "RunScenes.hpp"
 #include "Simulation/Run/RunSimulation.hpp"
 #include "Support/Places.hpp"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <map>
 
 namespace Merivane::Simulation {
 namespace {
@@ -35,8 +35,10 @@ Scene AroundTheLuminaire(const Photometry::IesFile& photometry) {
     scene.luminaires = {PlacedLuminaire(photometry, {0, 0, 3})};
     for (const double z : {0.0, 6.0}) {
         const double look = z < 3.0 ? 1.0 : -1.0;
-        for (int i = 0; i < 25; ++i) {
-            scene.points.push_back({1.5 * (i % 5 - 2), 1.5 * (i / 5 - 2), z, 0, 0, look});
+        for (int row = -2; row <= 2; ++row) {
+            for (int column = -2; column <= 2; ++column) {
+                scene.points.push_back({1.5 * column, 1.5 * row, z, 0, 0, look});
+            }
         }
     }
     return scene;

@@ -1,13 +1,13 @@
-#include "Simulation/Run/FolderLock.hpp"
-
-#include "Support/Places.hpp"
-#include "Text/NativePath.hpp"
+#include <csignal>
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include "Simulation/Run/FolderLock.hpp"
+#include "Support/Places.hpp"
+#include "Text/NativePath.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,6 +1,6 @@
-#include "Simulation/Run/InstallationReport.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Simulation/Run/InstallationReport.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,6 +1,6 @@
-#include "Simulation/Run/RadianceTool.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Simulation/Run/RadianceTool.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,8 +1,7 @@
-#include "Simulation/Run/ReflectionEstimate.hpp"
+#include <gtest/gtest.h>
 
 #include "RunScenes.hpp"
-
-#include <gtest/gtest.h>
+#include "Simulation/Run/ReflectionEstimate.hpp"
 
 namespace Merivane::Simulation {
 namespace {

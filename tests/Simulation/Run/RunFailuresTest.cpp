@@ -1,10 +1,10 @@
+#include <gtest/gtest.h>
+
 #include "RunScenes.hpp"
 #include "Simulation/Run/FolderLock.hpp"
 #include "Simulation/Run/RunSimulation.hpp"
 #include "Support/Places.hpp"
 #include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,15 +1,15 @@
-#include "RunScenes.hpp"
-#include "Simulation/Run/RunSimulation.hpp"
-#include "Support/Places.hpp"
-#include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <chrono>
 #include <fstream>
 #include <set>
 #include <thread>
+
+#include <gtest/gtest.h>
+
+#include "RunScenes.hpp"
+#include "Simulation/Run/RunSimulation.hpp"
+#include "Support/Places.hpp"
+#include "Text/NativePath.hpp"
 
 namespace Merivane::Simulation {
 namespace {

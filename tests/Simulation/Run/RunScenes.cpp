@@ -1,13 +1,13 @@
 #include "RunScenes.hpp"
 
+#include <cmath>
+#include <numbers>
+#include <sstream>
+
 #include "Photometry/PhotometricQuantities.hpp"
 #include "Radiance/Installation.hpp"
 #include "Support/Places.hpp"
 #include "Text/NativePath.hpp"
-
-#include <cmath>
-#include <numbers>
-#include <sstream>
 
 namespace Merivane::Tests {
 

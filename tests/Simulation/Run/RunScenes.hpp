@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Simulation/Scene.hpp"
-#include "Simulation/SimulationRecords.hpp"
-
 #include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "Simulation/Scene.hpp"
+#include "Simulation/SimulationRecords.hpp"
 
 namespace Merivane::Tests {
 

@@ -1,14 +1,13 @@
-#include "Simulation/Run/RunSimulation.hpp"
-
-#include "RunScenes.hpp"
-#include "Support/Places.hpp"
-#include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <numeric>
 #include <thread>
+
+#include <gtest/gtest.h>
+
+#include "RunScenes.hpp"
+#include "Simulation/Run/RunSimulation.hpp"
+#include "Support/Places.hpp"
+#include "Text/NativePath.hpp"
 
 namespace Merivane::Simulation {
 namespace {
@@ -283,8 +282,9 @@ TEST(RunSimulation, PlacesMoreLuminairesThanOconvTakesFiles) {
         scene.luminaires.push_back(luminaire);
         scene.luminaires.back().photometry.width = 0.01;
         scene.luminaires.back().photometry.length = 0.01;
-        scene.luminaires.back().x = 1.0 + 0.1 * (i % 20);
-        scene.luminaires.back().y = 0.9 + 0.1 * (i / 20);
+        const int row = i / 20;
+        scene.luminaires.back().x = 1.0 + 0.1 * (i - 20 * row);
+        scene.luminaires.back().y = 0.9 + 0.1 * row;
         scene.luminaires.back().dimming = 1.0 / 260;
     }
     const SimulationResult many = Calculate(scene, options);

@@ -1,11 +1,10 @@
-#include "Simulation/Run/SelfTest.hpp"
+#include <gtest/gtest.h>
 
 #include "RunScenes.hpp"
 #include "Simulation/Run/InstallationReport.hpp"
+#include "Simulation/Run/SelfTest.hpp"
 #include "Support/Places.hpp"
 #include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,5 +1,10 @@
 // What the calculation says against what photometry says in closed form.
 
+#include <numbers>
+#include <numeric>
+
+#include <gtest/gtest.h>
+
 #include "Radiance/ProcessRunner.hpp"
 #include "Radiance/RtraceOutput.hpp"
 #include "RunScenes.hpp"
@@ -7,11 +12,6 @@
 #include "Simulation/Run/RunSimulation.hpp"
 #include "Support/Places.hpp"
 #include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
-
-#include <numbers>
-#include <numeric>
 
 namespace Merivane::Simulation {
 namespace {
@@ -124,8 +124,9 @@ Scene Cube(double reflectance, int n) {
                 std::array<double, 3> place{};
                 std::array<double, 3> direction{};
                 place[a] = sign > 0 ? Gap : CubeSide - Gap;
-                place[(a + 1) % 3] = CubeSide * (k % n + 0.5) / n;
-                place[(a + 2) % 3] = CubeSide * (k / n + 0.5) / n;
+                const int row = k / n;
+                place[(a + 1) % 3] = CubeSide * (k - n * row + 0.5) / n;
+                place[(a + 2) % 3] = CubeSide * (row + 0.5) / n;
                 direction[a] = sign;
                 scene.points.push_back(
                     {place[0], place[1], place[2], direction[0], direction[1], direction[2]});
@@ -168,7 +169,7 @@ TEST(Validation, ClosedCubeReflectsWhatItShouldThroughTheProductsOptions) {
 }
 
 // Mean illuminance of the loose points under options of the test's own, on the run's own octree.
-double MeanWith(const SimulationOptions& options, std::vector<std::string> arguments) {
+double MeanWith(const SimulationOptions& options, const std::vector<std::string>& arguments) {
     ProcessTarget target;
     SimulationResult result;
     target.radianceBinFolder = options.radianceBinFolder;
