@@ -4,18 +4,14 @@
 
 #include "Radiance/ChildProcess.hpp"
 
-#include "Radiance/BoundedText.hpp"
-#include "Radiance/CommandLine.hpp"
-#include "Radiance/SpawnPosix.hpp"
-#include "Text/NativePath.hpp"
-#include "Text/Utf8.hpp"
-
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -23,6 +19,12 @@
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include "Radiance/BoundedText.hpp"
+#include "Radiance/CommandLine.hpp"
+#include "Radiance/SpawnPosix.hpp"
+#include "Text/NativePath.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Radiance {
 

@@ -1,6 +1,6 @@
-#include "Radiance/BoundedText.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Radiance/BoundedText.hpp"
 
 using namespace Merivane::Radiance;
 

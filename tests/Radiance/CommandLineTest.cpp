@@ -1,8 +1,8 @@
-#include "Radiance/CommandLine.hpp"
+#include <random>
 
 #include <gtest/gtest.h>
 
-#include <random>
+#include "Radiance/CommandLine.hpp"
 
 using namespace Merivane::Radiance;
 

@@ -1,10 +1,10 @@
+#include <gtest/gtest.h>
+
 #include "Radiance/CommandLine.hpp"
 #include "Radiance/ProcessRunner.hpp"
 #include "Radiance/Scripts.hpp"
 #include "Support/Places.hpp"
 #include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
 
 using namespace Merivane;
 using namespace Merivane::Radiance;

@@ -1,10 +1,9 @@
-#include "Radiance/Environment.hpp"
-
-#include "Support/Variable.hpp"
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include "Radiance/Environment.hpp"
+#include "Support/Variable.hpp"
 
 using namespace Merivane::Radiance;
 using Merivane::Tests::Variable;

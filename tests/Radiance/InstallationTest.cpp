@@ -1,13 +1,12 @@
-#include "Radiance/Installation.hpp"
+#include <algorithm>
 
+#include <gtest/gtest.h>
+
+#include "Radiance/Installation.hpp"
 #include "Radiance/Scripts.hpp"
 #include "Support/Places.hpp"
 #include "Support/Variable.hpp"
 #include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
 
 using namespace Merivane;
 using namespace Merivane::Radiance;

@@ -1,10 +1,9 @@
-#include "Radiance/LuminaireSource.hpp"
-
-#include "Photometry/IesWriter.hpp"
+#include <numbers>
 
 #include <gtest/gtest.h>
 
-#include <numbers>
+#include "Photometry/IesWriter.hpp"
+#include "Radiance/LuminaireSource.hpp"
 
 namespace Merivane::Radiance {
 namespace {

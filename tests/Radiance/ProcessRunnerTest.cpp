@@ -1,18 +1,17 @@
-#include "Radiance/ProcessRunner.hpp"
-
-#include "Radiance/Scripts.hpp"
-#include "Support/Places.hpp"
-#include "Support/Variable.hpp"
-#include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <sstream>
 
+#include <gtest/gtest.h>
+
 #include <fcntl.h>
 #include <unistd.h>
+
+#include "Radiance/ProcessRunner.hpp"
+#include "Radiance/Scripts.hpp"
+#include "Support/Places.hpp"
+#include "Support/Variable.hpp"
+#include "Text/NativePath.hpp"
 
 using namespace Merivane;
 using namespace Merivane::Radiance;

@@ -1,13 +1,5 @@
 // Cancelling, signals and children that do not end by themselves.
 
-#include "Radiance/ProcessRunner.hpp"
-
-#include "Radiance/Scripts.hpp"
-#include "Support/Places.hpp"
-#include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -19,10 +11,18 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include "Radiance/ProcessRunner.hpp"
+#include "Radiance/Scripts.hpp"
+#include "Support/Places.hpp"
+#include "Text/NativePath.hpp"
 
 using namespace Merivane;
 using namespace Merivane::Radiance;
@@ -179,6 +179,16 @@ TEST_F(ProcessSignals, AsksEvery200MillisecondsWhateverTheChildWrites) {
         EXPECT_GE(shortest, 199.0);
         EXPECT_LT(shortest, 250.0); // a busy machine makes some of them longer, not all
     }
+}
+
+TEST_F(ProcessSignals, SleepsUntilTheChildEnds) {
+    const ProcessJob silent = Script("exec 2>&-; exec sleep 1"); // its pipe tells nothing
+    rusage before{};
+    rusage after{};
+    ::getrusage(RUSAGE_SELF, &before);
+    RunProcess(silent, {});
+    ::getrusage(RUSAGE_SELF, &after);
+    EXPECT_LT(after.ru_nvcsw - before.ru_nvcsw, 50); // about 10 wakings; 200 with looks every 5 ms
 }
 
 TEST_F(ProcessSignals, AsksBeforeItWaits) {

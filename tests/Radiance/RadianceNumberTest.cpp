@@ -1,8 +1,8 @@
-#include "Radiance/RadianceNumber.hpp"
+#include <clocale>
 
 #include <gtest/gtest.h>
 
-#include <clocale>
+#include "Radiance/RadianceNumber.hpp"
 
 namespace Merivane::Radiance {
 namespace {

@@ -1,19 +1,19 @@
 // The runner with the programs it is made for.
 
-#include "Radiance/Installation.hpp"
-#include "Radiance/ProcessRunner.hpp"
-#include "Radiance/Scripts.hpp"
-#include "Support/Places.hpp"
-#include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
 #include <thread>
+
+#include <gtest/gtest.h>
+
+#include "Radiance/Installation.hpp"
+#include "Radiance/ProcessRunner.hpp"
+#include "Radiance/Scripts.hpp"
+#include "Support/Places.hpp"
+#include "Text/NativePath.hpp"
 
 using namespace Merivane;
 using namespace Merivane::Radiance;

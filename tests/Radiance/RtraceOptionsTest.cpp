@@ -1,6 +1,6 @@
-#include "Radiance/RtraceOptions.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Radiance/RtraceOptions.hpp"
 
 namespace Merivane::Radiance {
 namespace {

@@ -1,6 +1,6 @@
-#include "Radiance/RtraceOutput.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Radiance/RtraceOutput.hpp"
 
 namespace Merivane::Radiance {
 namespace {

@@ -1,6 +1,6 @@
-#include "Radiance/RtraceShares.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Radiance/RtraceShares.hpp"
 
 namespace Merivane::Radiance {
 namespace {

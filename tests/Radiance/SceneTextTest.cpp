@@ -1,6 +1,6 @@
-#include "Radiance/SceneText.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Radiance/SceneText.hpp"
 
 namespace Merivane::Radiance {
 namespace {

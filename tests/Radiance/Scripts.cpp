@@ -1,14 +1,14 @@
 #include "Radiance/Scripts.hpp"
 
-#include "Support/Places.hpp"
-#include "Text/NativePath.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <thread>
+
+#include <gtest/gtest.h>
+
+#include "Support/Places.hpp"
+#include "Text/NativePath.hpp"
 
 namespace Merivane::Tests {
 
