@@ -2,9 +2,6 @@
 // three fields, writes them into the folder that is its argument, and then answers one line for
 // each line it is given: "curves 1" or "bands 1" runs field 1 once and gives nanoseconds; with
 // "count" before it, what came out.
-#include "Simulation/ColorBands.hpp"
-#include "Simulation/Isolines.hpp"
-
 #include <chrono>
 #include <cmath>
 #include <cstddef>
@@ -14,6 +11,9 @@
 #include <random>
 #include <string>
 #include <vector>
+
+#include "Simulation/ColorBands.hpp"
+#include "Simulation/Isolines.hpp"
 
 using namespace Merivane::Simulation;
 

@@ -1,14 +1,14 @@
 // Distances of the nodes of a whole lattice against the same question asked node by node, on rings
 // of few and of many edges. Prints milliseconds and their ratio; the values must be the same.
 
-#include "Simulation/NodeDistances.hpp"
-#include "Simulation/PolygonGeometry.hpp"
-
 #include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <vector>
+
+#include "Simulation/NodeDistances.hpp"
+#include "Simulation/PolygonGeometry.hpp"
 
 using namespace Merivane::Simulation;
 

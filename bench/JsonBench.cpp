@@ -2,10 +2,6 @@
 // with our JSON and with nlohmann-json, both into and out of a document in memory, in turns in one
 // process. Prints the medians and the ratios; above 1 ours is faster.
 
-#include "Catalog/Json.hpp"
-
-#include <nlohmann/json.hpp>
-
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -13,6 +9,10 @@
 #include <random>
 #include <string>
 #include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "Catalog/Json.hpp"
 
 namespace {
 

@@ -1,6 +1,9 @@
 // Feeds any bytes to the IES reader and everything that takes what it read. What is accepted must
 // survive a round through the writer.
 
+#include <cstdint>
+#include <cstdlib>
+
 #include "Photometry/CandelaLookup.hpp"
 #include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"
@@ -8,9 +11,6 @@
 #include "Photometry/OpeningCodes.hpp"
 #include "Photometry/PhotometricQuantities.hpp"
 #include "Text/Utf8.hpp"
-
-#include <cstdint>
-#include <cstdlib>
 
 using namespace Merivane;
 

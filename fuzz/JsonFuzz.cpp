@@ -1,12 +1,12 @@
 // Whatever the bytes, reading ends without a crash; what is read is written so that it reads back
 // and is written the same again.
 
-#include "Catalog/Json.hpp"
-
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+
+#include "Catalog/Json.hpp"
 
 using namespace Merivane;
 

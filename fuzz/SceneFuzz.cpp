@@ -1,6 +1,12 @@
 // Whatever the bytes of a scene document, reading ends without a crash: in one sentence that can be
 // shown, or in a record whose scene, tables, results and plans can be built.
 
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
 #include "Catalog/Json.hpp"
 #include "Document/PlanAssembly.hpp"
 #include "Document/ResultDocument.hpp"
@@ -9,12 +15,6 @@
 #include "Document/SceneDocument.hpp"
 #include "Document/ShownText.hpp"
 #include "Simulation/PolygonGeometry.hpp"
-
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-#include <string_view>
 
 using namespace Merivane;
 

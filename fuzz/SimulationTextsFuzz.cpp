@@ -2,16 +2,16 @@
 // Whatever the bytes, reading ends without a crash, and what is read is written so that it reads
 // back.
 
-#include "Simulation/EngineSettings.hpp"
-#include "Simulation/LastRunRecord.hpp"
-#include "Simulation/LevelList.hpp"
-#include "Simulation/PreferenceBlock.hpp"
-
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <string_view>
+
+#include "Simulation/EngineSettings.hpp"
+#include "Simulation/LastRunRecord.hpp"
+#include "Simulation/LevelList.hpp"
+#include "Simulation/PreferenceBlock.hpp"
 
 using namespace Merivane::Simulation;
 

@@ -1,12 +1,11 @@
-#include "Catalog/Json.hpp"
-
-#include "Catalog/JsonPlainText.hpp"
-#include "Text/Ascii.hpp"
-#include "Text/Utf8.hpp"
-
 #include <charconv>
 #include <system_error>
 #include <utility>
+
+#include "Catalog/Json.hpp"
+#include "Catalog/JsonPlainText.hpp"
+#include "Text/Ascii.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Catalog {
 

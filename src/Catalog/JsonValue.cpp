@@ -1,8 +1,8 @@
-#include "Catalog/Json.hpp"
-
 #include <bit>
 #include <functional>
 #include <utility>
+
+#include "Catalog/Json.hpp"
 
 namespace Merivane::Catalog {
 

@@ -1,10 +1,9 @@
-#include "Catalog/Json.hpp"
-
-#include "Catalog/JsonPlainText.hpp"
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <cmath>
+
+#include "Catalog/Json.hpp"
+#include "Catalog/JsonPlainText.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Catalog {
 

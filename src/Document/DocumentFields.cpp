@@ -1,12 +1,12 @@
 #include "Document/DocumentFields.hpp"
 
-#include "Document/ShownText.hpp"
-#include "Text/Ascii.hpp"
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+
+#include "Document/ShownText.hpp"
+#include "Text/Ascii.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Document {
 
@@ -147,7 +147,7 @@ std::string NumberText(double value) {
     // The shortest form of 100000 is "1e+05": fit for a program, not for a reader.
     const std::string plain = Text::FormatGeneral(value, 15);
     double back = 0.0;
-    const bool exact = Text::ReadWholeNumber(plain, back) && back == value;
+    const bool exact = Text::ReadEntireNumber(plain, back) && back == value;
     return exact ? plain : Text::FormatShortest(value);
 }
 

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "Catalog/Json.hpp"
-#include "Simulation/Geometry.hpp"
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +9,9 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "Catalog/Json.hpp"
+#include "Simulation/Geometry.hpp"
 
 /// Reading records from JSON by a table of fields: each record's reader lists its keys, and what
 /// the table does not list is refused. All readers return false at the first thing that can't be

@@ -1,6 +1,6 @@
-#include "Document/SceneFields.hpp"
-
 #include <algorithm>
+
+#include "Document/SceneFields.hpp"
 
 namespace Merivane::Document {
 

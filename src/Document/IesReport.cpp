@@ -1,5 +1,10 @@
 #include "Document/IesReport.hpp"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
 #include "Document/ShownText.hpp"
 #include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"
@@ -9,11 +14,6 @@
 #include "Text/FileBytes.hpp"
 #include "Text/Number.hpp"
 #include "Text/Utf8.hpp"
-
-#include <algorithm>
-#include <array>
-#include <cstddef>
-#include <utility>
 
 namespace Merivane::Document {
 

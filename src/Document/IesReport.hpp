@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Catalog/Json.hpp"
-#include "Photometry/IesFile.hpp"
-
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "Catalog/Json.hpp"
+#include "Photometry/IesFile.hpp"
 
 namespace Merivane::Document {
 

@@ -1,13 +1,12 @@
-#include "Document/SceneFields.hpp"
+#include <numbers>
+#include <utility>
 
+#include "Document/SceneFields.hpp"
 #include "Document/ShownText.hpp"
 #include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"
 #include "Photometry/LuminaireTypeKey.hpp"
 #include "Photometry/OpeningCodes.hpp"
-
-#include <numbers>
-#include <utility>
 
 namespace Merivane::Document {
 

@@ -1,12 +1,11 @@
-#include "Document/SceneFields.hpp"
+#include <algorithm>
+#include <array>
 
+#include "Document/SceneFields.hpp"
 #include "Document/ShownText.hpp"
 #include "Document/SurfacePlane.hpp"
 #include "Simulation/GlassTransmissivity.hpp"
 #include "Text/Number.hpp"
-
-#include <algorithm>
-#include <array>
 
 namespace Merivane::Document {
 

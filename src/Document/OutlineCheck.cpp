@@ -1,9 +1,9 @@
 #include "Document/OutlineCheck.hpp"
 
-#include "Simulation/PolygonGeometry.hpp"
-
 #include <cmath>
 #include <cstddef>
+
+#include "Simulation/PolygonGeometry.hpp"
 
 namespace Merivane::Document {
 

@@ -1,11 +1,11 @@
 #include "Document/PlanAssembly.hpp"
 
-#include "Document/PlanScene.hpp"
-#include "Simulation/PrintedValue.hpp"
-
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+
+#include "Document/PlanScene.hpp"
+#include "Simulation/PrintedValue.hpp"
 
 namespace Merivane::Document {
 

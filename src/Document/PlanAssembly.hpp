@@ -1,11 +1,11 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "Document/ResultPlan.hpp"
 #include "Document/SceneBuild.hpp"
 #include "Simulation/SimulationRecords.hpp"
-
-#include <string>
-#include <vector>
 
 namespace Merivane::Document {
 

@@ -1,12 +1,12 @@
 #include "Document/PlanFigures.hpp"
 
-#include "Document/PlanLegend.hpp"
-#include "Document/SheetText.hpp"
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+
+#include "Document/PlanLegend.hpp"
+#include "Document/SheetText.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Document {
 namespace {

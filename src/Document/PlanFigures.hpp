@@ -1,10 +1,10 @@
 #pragma once
 
+#include <vector>
+
 #include "Document/PlanSheet.hpp"
 #include "Document/ResultPlan.hpp"
 #include "Simulation/ContourRecords.hpp"
-
-#include <vector>
 
 namespace Merivane::Document {
 

@@ -1,14 +1,14 @@
 #include "Document/PlanLabels.hpp"
 
+#include <algorithm>
+#include <cmath>
+
 #include "Document/SheetText.hpp"
 #include "Simulation/ColorScale.hpp"
 #include "Simulation/CurveLabels.hpp"
 #include "Simulation/GridField.hpp"
 #include "Simulation/PolygonGeometry.hpp"
 #include "Simulation/PrintedValue.hpp"
-
-#include <algorithm>
-#include <cmath>
 
 namespace Merivane::Document {
 namespace {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <vector>
+
 #include "Document/PlanSheet.hpp"
 #include "Document/ResultPlan.hpp"
 #include "Document/TextSpace.hpp"
 #include "Simulation/ContourRecords.hpp"
-
-#include <vector>
 
 namespace Merivane::Document {
 

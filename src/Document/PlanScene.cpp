@@ -1,14 +1,14 @@
 #include "Document/PlanScene.hpp"
 
-#include "Photometry/OpeningCodes.hpp"
-#include "Photometry/PhotometricQuantities.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
 #include <numbers>
 #include <set>
+
+#include "Photometry/OpeningCodes.hpp"
+#include "Photometry/PhotometricQuantities.hpp"
 
 namespace Merivane::Document {
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include "Document/ResultPlan.hpp"
 #include "Simulation/Scene.hpp"
-
-#include <vector>
 
 namespace Merivane::Document {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <vector>
+
 #include "Document/ResultPlan.hpp"
 #include "Drawing/DisplayList.hpp"
 #include "Drawing/TextSize.hpp"
-
-#include <vector>
 
 namespace Merivane::Document {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include "Document/PlanSheet.hpp"
 #include "Document/ResultPlan.hpp"
-
-#include <string>
 
 namespace Merivane::Document {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include "Simulation/Geometry.hpp"
 #include "Simulation/Scene.hpp"
-
-#include <vector>
 
 namespace Merivane::Document {
 

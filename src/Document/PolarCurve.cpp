@@ -1,15 +1,15 @@
 #include "Document/PolarCurve.hpp"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
 #include "Document/SheetText.hpp"
 #include "Photometry/CandelaLookup.hpp"
 #include "Photometry/PhotometricQuantities.hpp"
 #include "Simulation/PrintedValue.hpp"
 #include "Text/Number.hpp"
-
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <numbers>
 
 namespace Merivane::Document {
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include "Drawing/DisplayList.hpp"
 #include "Photometry/IesFile.hpp"
-
-#include <string>
 
 namespace Merivane::Document {
 

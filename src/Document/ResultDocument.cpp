@@ -1,10 +1,10 @@
 #include "Document/ResultDocument.hpp"
 
-#include "Catalog/Json.hpp"
-
 #include <cstddef>
 #include <initializer_list>
 #include <utility>
+
+#include "Catalog/Json.hpp"
 
 namespace Merivane::Document {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Document/SceneBuild.hpp"
-#include "Simulation/SimulationRecords.hpp"
-
 #include <string>
 #include <vector>
+
+#include "Document/SceneBuild.hpp"
+#include "Simulation/SimulationRecords.hpp"
 
 namespace Merivane::Document {
 

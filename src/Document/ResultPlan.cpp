@@ -1,5 +1,9 @@
 #include "Document/ResultPlan.hpp"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "Document/PlanFigures.hpp"
 #include "Document/PlanLabels.hpp"
 #include "Document/PlanLegend.hpp"
@@ -12,10 +16,6 @@
 #include "Simulation/Isolines.hpp"
 #include "Simulation/PolygonGeometry.hpp"
 #include "Simulation/TaskOutline.hpp"
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace Merivane::Document {
 namespace {

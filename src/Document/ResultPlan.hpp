@@ -1,14 +1,14 @@
 #pragma once
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
 #include "Drawing/DisplayList.hpp"
 #include "Simulation/CalculationGrid.hpp"
 #include "Simulation/Geometry.hpp"
 #include "Simulation/LevelList.hpp"
 #include "Simulation/PointStatistics.hpp"
-
-#include <cstdint>
-#include <string>
-#include <vector>
 
 namespace Merivane::Document {
 

@@ -1,15 +1,15 @@
 #include "Document/ResultTable.hpp"
 
-#include "Document/PlanePoints.hpp"
-#include "Simulation/PrintedValue.hpp"
-#include "Text/Ascii.hpp"
-#include "Text/Utf8.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <set>
 #include <string_view>
+
+#include "Document/PlanePoints.hpp"
+#include "Simulation/PrintedValue.hpp"
+#include "Text/Ascii.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Document {
 

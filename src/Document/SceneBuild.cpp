@@ -1,9 +1,9 @@
 #include "Document/SceneBuild.hpp"
 
+#include <utility>
+
 #include "Document/DocumentFields.hpp"
 #include "Simulation/ZoneSurfaces.hpp"
-
-#include <utility>
 
 namespace Merivane::Document {
 

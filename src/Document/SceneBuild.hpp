@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Document/SceneDocument.hpp"
-#include "Simulation/Scene.hpp"
-
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include "Document/SceneDocument.hpp"
+#include "Simulation/Scene.hpp"
 
 namespace Merivane::Document {
 

@@ -1,13 +1,13 @@
 #include "Document/SceneDocument.hpp"
 
+#include <cmath>
+#include <filesystem>
+#include <utility>
+
 #include "Document/SceneFields.hpp"
 #include "Text/Ascii.hpp"
 #include "Text/FileBytes.hpp"
 #include "Text/Utf8.hpp"
-
-#include <cmath>
-#include <filesystem>
-#include <utility>
 
 namespace Merivane::Document {
 

@@ -1,15 +1,15 @@
 #pragma once
 
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "Simulation/CalculationGrid.hpp"
 #include "Simulation/EngineSettings.hpp"
 #include "Simulation/Geometry.hpp"
 #include "Simulation/LevelList.hpp"
 #include "Simulation/Scene.hpp"
-
-#include <functional>
-#include <string>
-#include <string_view>
-#include <vector>
 
 /// The scene document: a JSON text with Portuguese keys that tells one calculation whole. Its keys,
 /// units, ranges and defaults stand in docs/cena.md.

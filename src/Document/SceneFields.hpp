@@ -1,13 +1,13 @@
 #pragma once
 
-#include "Document/DocumentFields.hpp"
-#include "Document/SceneDocument.hpp"
-
 #include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "Document/DocumentFields.hpp"
+#include "Document/SceneDocument.hpp"
 
 /// The readers of the scene document's records, each a table of its keys. They refuse as
 /// `ReadObject` does.

@@ -1,8 +1,8 @@
 #include "Document/SheetText.hpp"
 
-#include "Drawing/TextSize.hpp"
-
 #include <algorithm>
+
+#include "Drawing/TextSize.hpp"
 
 namespace Merivane::Document {
 namespace {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Drawing/DisplayList.hpp"
-
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "Drawing/DisplayList.hpp"
 
 namespace Merivane::Document {
 

@@ -1,10 +1,10 @@
 #include "Document/ShownText.hpp"
 
-#include "Text/Ascii.hpp"
-#include "Text/Utf8.hpp"
-
 #include <array>
 #include <cstddef>
+
+#include "Text/Ascii.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Document {
 

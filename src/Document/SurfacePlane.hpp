@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Simulation/Geometry.hpp"
-
 #include <cstddef>
 #include <vector>
+
+#include "Simulation/Geometry.hpp"
 
 namespace Merivane::Document {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include "Drawing/DisplayList.hpp"
 #include "Drawing/TextSize.hpp"
-
-#include <vector>
 
 namespace Merivane::Document {
 

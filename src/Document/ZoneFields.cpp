@@ -1,10 +1,9 @@
-#include "Document/SceneFields.hpp"
-
-#include "Document/OutlineCheck.hpp"
-#include "Text/Number.hpp"
-
 #include <cmath>
 #include <string>
+
+#include "Document/OutlineCheck.hpp"
+#include "Document/SceneFields.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Document {
 

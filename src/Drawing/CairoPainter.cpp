@@ -1,10 +1,10 @@
 #include "Drawing/CairoPainter.hpp"
 
-#include "Drawing/TextLayout.hpp"
-#include "Drawing/TextSize.hpp"
-
 #include <new>
 #include <numbers>
+
+#include "Drawing/TextLayout.hpp"
+#include "Drawing/TextSize.hpp"
 
 namespace Merivane::Drawing {
 namespace {

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "Drawing/DisplayList.hpp"
-
-#include <cairo.h>
 #include <memory>
 #include <string>
+
+#include <cairo.h>
+
+#include "Drawing/DisplayList.hpp"
 
 namespace Merivane::Drawing {
 

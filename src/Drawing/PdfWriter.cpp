@@ -1,15 +1,16 @@
 #include "Drawing/PdfWriter.hpp"
 
-#include "Drawing/CairoPainter.hpp"
-#include "Drawing/TextLayout.hpp"
-#include "Text/Number.hpp"
-
 #include <array>
-#include <cairo-pdf.h>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+
+#include <cairo-pdf.h>
+
+#include "Drawing/CairoPainter.hpp"
+#include "Drawing/TextLayout.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Drawing {
 namespace {
@@ -26,7 +27,7 @@ std::int64_t CreationTime(const PdfOptions& options) {
         time = *options.creationTime;
     } else if (const char* text = std::getenv("SOURCE_DATE_EPOCH")) {
         double seconds = 0.0;
-        if (Merivane::Text::ReadWholeNumber(text, seconds) && seconds >= 0.0 &&
+        if (Merivane::Text::ReadEntireNumber(text, seconds) && seconds >= 0.0 &&
             seconds < static_cast<double>(Year10000)) {
             time = static_cast<std::int64_t>(seconds);
         }

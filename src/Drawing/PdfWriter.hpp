@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Drawing/DisplayList.hpp"
-
 #include <cstdint>
 #include <optional>
 #include <string>
+
+#include "Drawing/DisplayList.hpp"
 
 namespace Merivane::Drawing {
 

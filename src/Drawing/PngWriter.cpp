@@ -1,12 +1,12 @@
 #include "Drawing/PngWriter.hpp"
 
-#include "Drawing/CairoPainter.hpp"
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
+
+#include "Drawing/CairoPainter.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Drawing {
 namespace {

@@ -1,15 +1,15 @@
 #include "Drawing/SvgWriter.hpp"
 
-#include "Drawing/TextLayout.hpp"
-#include "Drawing/TextSize.hpp"
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
 #include <numbers>
 #include <string_view>
+
+#include "Drawing/TextLayout.hpp"
+#include "Drawing/TextSize.hpp"
+#include "Text/Number.hpp"
 
 // Written by hand, not by Cairo's SVG surface: that one turns texts into outlines, knows no layers
 // and numbers its groups by a counter of the process, so that no two files are alike.

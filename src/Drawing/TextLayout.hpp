@@ -1,11 +1,12 @@
 #pragma once
 
-#include "Drawing/DisplayList.hpp"
-
 #include <memory>
-#include <pango/pangocairo.h>
 #include <string>
 #include <string_view>
+
+#include <pango/pangocairo.h>
+
+#include "Drawing/DisplayList.hpp"
 
 namespace Merivane::Drawing {
 

@@ -1,11 +1,11 @@
 #include "Drawing/TextSize.hpp"
 
-#include "Drawing/TextLayout.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
+
+#include "Drawing/TextLayout.hpp"
 
 namespace Merivane::Drawing {
 namespace {

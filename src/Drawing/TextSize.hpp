@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Drawing/DisplayList.hpp"
-
 #include <string_view>
+
+#include "Drawing/DisplayList.hpp"
 
 namespace Merivane::Drawing {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Host/Types.hpp"
-
 #include <string>
 #include <string_view>
+
+#include "Host/Types.hpp"
 
 /// The running host and this add-on in it. Defined by whichever host is linked; nothing throws.
 /// Called on the main thread only.

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Host/Types.hpp"
-
 #include <cstdint>
 #include <string>
 #include <string_view>
+
+#include "Host/Types.hpp"
 
 /// What the host keeps for the add-on. Defined by whichever host is linked; nothing throws.
 /// Called on the main thread only.

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Photometry/IesFile.hpp"
-
 #include <cstddef>
 #include <vector>
+
+#include "Photometry/IesFile.hpp"
 
 namespace Merivane::Photometry {
 

@@ -1,10 +1,10 @@
 #include "Photometry/IesReader.hpp"
 
+#include <algorithm>
+
 #include "Photometry/NumberCursor.hpp"
 #include "Photometry/PhotometricQuantities.hpp"
 #include "Text/Ascii.hpp"
-
-#include <algorithm>
 
 namespace Merivane::Photometry {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Photometry/IesFile.hpp"
-
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "Photometry/IesFile.hpp"
 
 namespace Merivane::Photometry {
 

@@ -1,8 +1,8 @@
 #include "Photometry/IesText.hpp"
 
-#include "Text/Utf8.hpp"
-
 #include <array>
+
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Photometry {
 

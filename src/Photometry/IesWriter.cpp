@@ -1,9 +1,9 @@
 #include "Photometry/IesWriter.hpp"
 
-#include "Text/Number.hpp"
-
 #include <initializer_list>
 #include <string_view>
+
+#include "Text/Number.hpp"
 
 namespace Merivane::Photometry {
 

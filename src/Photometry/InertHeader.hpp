@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Photometry/IesFile.hpp"
-
 #include <string>
+
+#include "Photometry/IesFile.hpp"
 
 namespace Merivane::Photometry {
 

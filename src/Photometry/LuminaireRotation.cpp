@@ -1,9 +1,9 @@
 #include "Photometry/LuminaireRotation.hpp"
 
-#include "Photometry/PhotometricQuantities.hpp"
-
 #include <algorithm>
 #include <cmath>
+
+#include "Photometry/PhotometricQuantities.hpp"
 
 namespace Merivane::Photometry {
 

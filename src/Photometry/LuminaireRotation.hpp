@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Photometry/LuminaireContract.hpp"
-
 #include <array>
+
+#include "Photometry/LuminaireContract.hpp"
 
 namespace Merivane::Photometry {
 

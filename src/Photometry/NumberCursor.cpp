@@ -1,10 +1,10 @@
 #include "Photometry/NumberCursor.hpp"
 
-#include "Text/Ascii.hpp"
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <cmath>
+
+#include "Text/Ascii.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Photometry {
 
@@ -36,7 +36,7 @@ bool ReadReal(NumberCursor& cursor, std::string_view label, double& value) {
         return false;
     }
     const std::string_view token = cursor.tokens[cursor.next++];
-    if (!Text::ReadWholeNumber(token, value)) {
+    if (!Text::ReadEntireNumber(token, value)) {
         cursor.error = "valor nao numerico \"";
         cursor.error += token;
         cursor.error += "\" em ";

@@ -6,12 +6,12 @@
 
 #include "Photometry/OpeningCodes.hpp"
 
+#include <algorithm>
+#include <cmath>
+
 #include "Photometry/InertHeader.hpp"
 #include "Photometry/PhotometricQuantities.hpp"
 #include "Text/Number.hpp"
-
-#include <algorithm>
-#include <cmath>
 
 namespace Merivane::Photometry {
 

@@ -3,11 +3,11 @@
 
 #include "Photometry/PhotometricQuantities.hpp"
 
-#include "Photometry/CandelaLookup.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+
+#include "Photometry/CandelaLookup.hpp"
 
 namespace Merivane::Photometry {
 

@@ -1,7 +1,6 @@
-#include "Program/Commands.hpp"
-
 #include "AddOn/RunLog/RunLog.hpp"
 #include "Archicad/AddOnFolder.hpp"
+#include "Program/Commands.hpp"
 #include "Program/Interrupt.hpp"
 #include "Program/Message.hpp"
 #include "Program/WorkFolder.hpp"

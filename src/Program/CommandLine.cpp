@@ -1,18 +1,18 @@
 #include "Program/CommandLine.hpp"
 
-#include "Program/Version.hpp"
-#include "Text/Number.hpp"
-
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <functional>
 #include <memory>
 #include <string_view>
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include "Program/Version.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Program {
 
@@ -53,7 +53,7 @@ void Prepare(CLI::App& app) {
 bool ReadPositive(std::string text, double& value) {
     std::replace(text.begin(), text.end(), ',', '.');
     double read = 0.0;
-    if (!Text::ReadWholeNumber(text, read) || !std::isfinite(read) || read <= 0.0) {
+    if (!Text::ReadEntireNumber(text, read) || !std::isfinite(read) || read <= 0.0) {
         return false;
     }
     value = read;

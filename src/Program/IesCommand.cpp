@@ -1,17 +1,16 @@
-#include "Program/Commands.hpp"
+#include <cstdio>
+#include <filesystem>
 
 #include "Catalog/Json.hpp"
 #include "Document/IesReport.hpp"
 #include "Document/PolarCurve.hpp"
 #include "Document/ResultTable.hpp"
 #include "Drawing/PngWriter.hpp"
+#include "Program/Commands.hpp"
 #include "Program/Interrupt.hpp"
 #include "Program/Message.hpp"
 #include "Program/OutputFiles.hpp"
 #include "Text/Utf8.hpp"
-
-#include <cstdio>
-#include <filesystem>
 
 namespace Merivane::Program {
 
@@ -29,6 +28,7 @@ std::string JoinParts(const std::vector<std::string>& parts) {
 /// share one.
 std::vector<std::string> CurveNames(const std::vector<std::string>& files) {
     std::vector<std::string> titles;
+    titles.reserve(files.size());
     for (const std::string& file : files) {
         titles.push_back(std::filesystem::path(file).stem().string());
     }

@@ -1,16 +1,15 @@
-#include "Program/CommandLine.hpp"
-#include "Program/Commands.hpp"
-#include "Program/Message.hpp"
-
-#include "Workbench/Session.hpp"
-#include "Workbench/SystemPlaces.hpp"
-
 #include <cstdio>
 #include <exception>
 #include <new>
 #include <string>
 #include <variant>
 #include <vector>
+
+#include "Program/CommandLine.hpp"
+#include "Program/Commands.hpp"
+#include "Program/Message.hpp"
+#include "Workbench/Session.hpp"
+#include "Workbench/SystemPlaces.hpp"
 
 namespace {
 

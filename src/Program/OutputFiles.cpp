@@ -1,11 +1,11 @@
 #include "Program/OutputFiles.hpp"
 
-#include "Text/FileBytes.hpp"
-#include "Text/FileSync.hpp"
-#include "Text/Utf8.hpp"
-
 #include <filesystem>
 #include <system_error>
+
+#include "Text/FileBytes.hpp"
+#include "Text/NativeFile.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Program {
 

@@ -1,8 +1,8 @@
 #include "Program/Progress.hpp"
 
-#include "Program/Terminal.hpp"
-
 #include <cstdio>
+
+#include "Program/Terminal.hpp"
 
 namespace Merivane::Program {
 

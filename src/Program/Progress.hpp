@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Simulation/SimulationRecords.hpp"
-
 #include <cstdint>
 #include <string>
+
+#include "Simulation/SimulationRecords.hpp"
 
 namespace Merivane::Program {
 

@@ -1,14 +1,14 @@
 #include "Program/ResultFiles.hpp"
 
+#include <algorithm>
+#include <filesystem>
+
 #include "Document/ResultTable.hpp"
 #include "Drawing/PdfWriter.hpp"
 #include "Drawing/PngWriter.hpp"
 #include "Drawing/SvgWriter.hpp"
 #include "Program/Message.hpp"
 #include "Simulation/PrintedValue.hpp"
-
-#include <algorithm>
-#include <filesystem>
 
 namespace Merivane::Program {
 

@@ -1,14 +1,14 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "Document/PlanAssembly.hpp"
 #include "Document/ResultDocument.hpp"
 #include "Document/SceneBuild.hpp"
 #include "Program/CommandLine.hpp"
 #include "Program/OutputFiles.hpp"
 #include "Simulation/SimulationRecords.hpp"
-
-#include <string>
-#include <vector>
 
 namespace Merivane::Program {
 

@@ -1,10 +1,14 @@
-#include "Program/Commands.hpp"
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <vector>
 
 #include "Archicad/AddOnFolder.hpp"
 #include "Document/PlanAssembly.hpp"
 #include "Document/ResultDocument.hpp"
 #include "Document/SceneBuild.hpp"
 #include "Document/SceneDocument.hpp"
+#include "Program/Commands.hpp"
 #include "Program/Interrupt.hpp"
 #include "Program/Message.hpp"
 #include "Program/OutputFiles.hpp"
@@ -18,11 +22,6 @@
 #include "Simulation/Run/RunSimulation.hpp"
 #include "Simulation/Run/SelfTest.hpp"
 #include "Text/Utf8.hpp"
-
-#include <chrono>
-#include <cstdio>
-#include <string>
-#include <vector>
 
 namespace Merivane::Program {
 

@@ -1,11 +1,11 @@
 #include "Program/WorkFolder.hpp"
 
+#include <filesystem>
+#include <system_error>
+
 #include "Host/Session.hpp"
 #include "Program/OutputFiles.hpp"
 #include "Text/Utf8.hpp"
-
-#include <filesystem>
-#include <system_error>
 
 namespace Merivane::Program {
 

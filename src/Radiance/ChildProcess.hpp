@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Radiance/ProcessRunner.hpp"
-
 #include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "Radiance/ProcessRunner.hpp"
 
 /// What the runner needs of the operating system: children that are started, watched and killed.
 namespace Merivane::Radiance {

@@ -1,14 +1,14 @@
 #include "Radiance/ChildProcess.hpp"
 
-#include "Radiance/BoundedText.hpp"
-#include "Radiance/CommandLine.hpp"
-#include "Radiance/Environment.hpp"
-
 #include <algorithm>
 #include <array>
 #include <utility>
 
 #include <windows.h>
+
+#include "Radiance/BoundedText.hpp"
+#include "Radiance/CommandLine.hpp"
+#include "Radiance/Environment.hpp"
 
 namespace Merivane::Radiance {
 

@@ -1,10 +1,10 @@
 #include "Radiance/Environment.hpp"
 
-#include "Text/Utf8.hpp"
-
 #include <cstdlib>
 
 #include <unistd.h>
+
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Radiance {
 

@@ -1,15 +1,15 @@
 #include "Radiance/Installation.hpp"
 
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
 #include "Radiance/CommandLine.hpp"
 #include "Radiance/Environment.hpp"
 #include "Radiance/ProcessRunner.hpp"
 #include "Radiance/SystemPlaces.hpp"
 #include "Text/NativePath.hpp"
 #include "Text/Utf8.hpp"
-
-#include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 namespace Merivane::Radiance {
 

@@ -1,13 +1,13 @@
 #include "Radiance/LuminaireSource.hpp"
 
-#include "Photometry/PhotometricQuantities.hpp"
-#include "Radiance/RadianceNumber.hpp"
-
 #include <cmath>
 #include <cstdint>
 #include <initializer_list>
 #include <numbers>
 #include <string_view>
+
+#include "Photometry/PhotometricQuantities.hpp"
+#include "Radiance/RadianceNumber.hpp"
 
 namespace Merivane::Radiance {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Simulation/Scene.hpp"
-
 #include <string>
 #include <vector>
+
+#include "Simulation/Scene.hpp"
 
 namespace Merivane::Radiance {
 

@@ -1,10 +1,10 @@
 #include "Radiance/ProcessRunner.hpp"
 
-#include "Radiance/BoundedText.hpp"
-#include "Radiance/ChildProcess.hpp"
-
 #include <algorithm>
 #include <chrono>
+
+#include "Radiance/BoundedText.hpp"
+#include "Radiance/ChildProcess.hpp"
 
 namespace Merivane::Radiance {
 

@@ -1,11 +1,11 @@
 #include "Radiance/RtraceOptions.hpp"
 
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <initializer_list>
+
+#include "Text/Number.hpp"
 
 namespace Merivane::Radiance {
 
@@ -96,7 +96,7 @@ std::int32_t ReflectionCount(const SimulationOptions& options) {
     const auto reflections = FindReflections(arguments);
     double count = 0.0;
     if (reflections != arguments.end()) {
-        Text::ReadWholeNumber(*reflections, count);
+        Text::ReadEntireNumber(*reflections, count);
     }
     return static_cast<std::int32_t>(count);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Simulation/SimulationRecords.hpp"
-
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "Simulation/SimulationRecords.hpp"
 
 namespace Merivane::Radiance {
 

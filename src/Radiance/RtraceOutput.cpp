@@ -1,10 +1,10 @@
 #include "Radiance/RtraceOutput.hpp"
 
-#include "Radiance/RtraceShares.hpp"
-#include "Text/Number.hpp"
-
 #include <cmath>
 #include <cstddef>
+
+#include "Radiance/RtraceShares.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Radiance {
 

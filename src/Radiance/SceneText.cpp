@@ -1,9 +1,9 @@
 #include "Radiance/SceneText.hpp"
 
-#include "Radiance/RadianceNumber.hpp"
-
 #include <cstddef>
 #include <initializer_list>
+
+#include "Radiance/RadianceNumber.hpp"
 
 namespace Merivane::Radiance {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Simulation/Scene.hpp"
-
 #include <string>
 #include <string_view>
+
+#include "Simulation/Scene.hpp"
 
 namespace Merivane::Radiance {
 

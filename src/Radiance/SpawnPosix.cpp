@@ -3,15 +3,15 @@
 
 #include "Radiance/SpawnPosix.hpp"
 
-#include "Radiance/Environment.hpp"
-#include "Text/Utf8.hpp"
-
 #include <csignal>
 #include <utility>
 
 #include <fcntl.h>
 #include <spawn.h>
 #include <unistd.h>
+
+#include "Radiance/Environment.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Radiance {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Simulation/ContourMesh.hpp"
-
 #include <cstddef>
 #include <functional>
 #include <vector>
+
+#include "Simulation/ContourMesh.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,11 +1,11 @@
 #include "Simulation/CalculationGrid.hpp"
 
-#include "Simulation/NodeDistances.hpp"
-#include "Simulation/PolygonGeometry.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
+
+#include "Simulation/NodeDistances.hpp"
+#include "Simulation/PolygonGeometry.hpp"
 
 namespace Merivane::Simulation {
 

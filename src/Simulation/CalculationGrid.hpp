@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Simulation/Geometry.hpp"
-
 #include <cstddef>
 #include <cstdint>
 #include <vector>
+
+#include "Simulation/Geometry.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,16 +1,16 @@
 #include "Simulation/ColorBands.hpp"
 
-#include "Simulation/BandRings.hpp"
-#include "Simulation/ContourMesh.hpp"
-#include "Simulation/HoleOwners.hpp"
-#include "Simulation/RingSimplification.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <span>
 #include <utility>
+
+#include "Simulation/BandRings.hpp"
+#include "Simulation/ContourMesh.hpp"
+#include "Simulation/HoleOwners.hpp"
+#include "Simulation/RingSimplification.hpp"
 
 namespace Merivane::Simulation {
 

@@ -6,12 +6,12 @@
 // sets one way out of each of its crossings, and the neighbour the other.
 #include "Simulation/ContourMesh.hpp"
 
-#include "Simulation/LevelsReached.hpp"
-#include "Simulation/MeshBuilder.hpp"
-
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
+
+#include "Simulation/LevelsReached.hpp"
+#include "Simulation/MeshBuilder.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Simulation/Geometry.hpp"
-#include "Simulation/GridField.hpp"
-#include "Simulation/LevelList.hpp"
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
+
+#include "Simulation/Geometry.hpp"
+#include "Simulation/GridField.hpp"
+#include "Simulation/LevelList.hpp"
 
 namespace Merivane::Simulation {
 

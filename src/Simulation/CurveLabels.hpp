@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Simulation/ContourRecords.hpp"
-
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "Simulation/ContourRecords.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include "Simulation/EngineSettings.hpp"
 #include "Simulation/LastRunRecord.hpp"
-
-#include <string>
 
 /// The lines of the engine settings dialog that follow from the numbers.
 namespace Merivane::Simulation {

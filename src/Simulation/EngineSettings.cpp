@@ -1,11 +1,11 @@
 #include "Simulation/EngineSettings.hpp"
 
-#include "Simulation/StoredText.hpp"
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
+
+#include "Simulation/StoredText.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Simulation {
 

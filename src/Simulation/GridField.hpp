@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Simulation/CalculationGrid.hpp"
-
 #include <vector>
+
+#include "Simulation/CalculationGrid.hpp"
 
 namespace Merivane::Simulation {
 

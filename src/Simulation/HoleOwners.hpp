@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Simulation/Geometry.hpp"
-
 #include <cstddef>
 #include <limits>
 #include <span>
 #include <vector>
+
+#include "Simulation/Geometry.hpp"
 
 namespace Merivane::Simulation {
 

@@ -3,12 +3,12 @@
 // edge: below a horizontal one the curve would run on to a smaller key.
 #include "Simulation/Isolines.hpp"
 
-#include "Simulation/ContourMesh.hpp"
-
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <tuple>
+
+#include "Simulation/ContourMesh.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <vector>
+
 #include "Simulation/ContourRecords.hpp"
 #include "Simulation/GridField.hpp"
 #include "Simulation/LevelList.hpp"
-
-#include <vector>
 
 namespace Merivane::Simulation {
 

@@ -1,11 +1,11 @@
 #include "Simulation/LevelList.hpp"
 
-#include "Simulation/PrintedValue.hpp"
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+
+#include "Simulation/PrintedValue.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Simulation {
 
@@ -16,7 +16,7 @@ bool ReadLevel(std::string_view token, bool decimalComma, double& level) {
     if (decimalComma) {
         std::replace(number.begin(), number.end(), ',', '.');
     }
-    return Text::ReadWholeNumber(number, level) && level > 0.0 && std::isfinite(level);
+    return Text::ReadEntireNumber(number, level) && level > 0.0 && std::isfinite(level);
 }
 
 bool IsWhole(double level) {

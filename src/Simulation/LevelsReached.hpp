@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Simulation/LevelList.hpp"
-
 #include <cstddef>
 #include <cstdint>
 #include <vector>
+
+#include "Simulation/LevelList.hpp"
 
 namespace Merivane::Simulation {
 

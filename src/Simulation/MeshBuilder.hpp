@@ -1,13 +1,13 @@
 #pragma once
 
-#include "Simulation/CellSegments.hpp"
-#include "Simulation/ContourMesh.hpp"
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
 #include <vector>
+
+#include "Simulation/CellSegments.hpp"
+#include "Simulation/ContourMesh.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,8 +1,8 @@
 // The slow but rare half of the mesh: cells on the edge of the area that has values.
-#include "Simulation/MeshBuilder.hpp"
-
 #include <algorithm>
 #include <utility>
+
+#include "Simulation/MeshBuilder.hpp"
 
 namespace Merivane::Simulation {
 

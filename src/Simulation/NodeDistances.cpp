@@ -5,13 +5,13 @@
 
 #include "Simulation/NodeDistances.hpp"
 
-#include "Simulation/PolygonGeometry.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+
+#include "Simulation/PolygonGeometry.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include "Simulation/CalculationGrid.hpp"
 #include "Simulation/Geometry.hpp"
-
-#include <vector>
 
 namespace Merivane::Simulation {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Simulation/CalculationGrid.hpp"
-
 #include <cstdint>
 #include <vector>
+
+#include "Simulation/CalculationGrid.hpp"
 
 namespace Merivane::Simulation {
 

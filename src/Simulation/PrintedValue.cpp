@@ -1,9 +1,9 @@
 #include "Simulation/PrintedValue.hpp"
 
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <cmath>
+
+#include "Text/Number.hpp"
 
 namespace Merivane::Simulation {
 

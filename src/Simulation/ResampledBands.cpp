@@ -1,12 +1,12 @@
 #include "Simulation/ResampledBands.hpp"
 
-#include "Simulation/ColorBands.hpp"
-#include "Simulation/GridField.hpp"
-#include "Simulation/PolygonGeometry.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+
+#include "Simulation/ColorBands.hpp"
+#include "Simulation/GridField.hpp"
+#include "Simulation/PolygonGeometry.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <vector>
+
 #include "Simulation/CalculationGrid.hpp"
 #include "Simulation/ContourRecords.hpp"
 #include "Simulation/Geometry.hpp"
 #include "Simulation/LevelList.hpp"
-
-#include <vector>
 
 namespace Merivane::Simulation {
 

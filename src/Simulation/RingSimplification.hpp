@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Simulation/Geometry.hpp"
-
 #include <vector>
+
+#include "Simulation/Geometry.hpp"
 
 namespace Merivane::Simulation {
 

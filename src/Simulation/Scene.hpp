@@ -1,13 +1,13 @@
 #pragma once
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
 #include "Photometry/IesFile.hpp"
 #include "Photometry/LuminaireContract.hpp"
 #include "Simulation/CalculationGrid.hpp"
 #include "Simulation/Geometry.hpp"
-
-#include <cstdint>
-#include <string>
-#include <vector>
 
 namespace Merivane::Simulation {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Simulation/EngineSettings.hpp"
-#include "Simulation/PointStatistics.hpp"
-
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "Simulation/EngineSettings.hpp"
+#include "Simulation/PointStatistics.hpp"
 
 namespace Merivane::Simulation {
 

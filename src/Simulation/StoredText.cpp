@@ -1,13 +1,13 @@
 #include "Simulation/StoredText.hpp"
 
-#include "Text/Ascii.hpp"
-#include "Text/Number.hpp"
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <system_error>
+
+#include "Text/Ascii.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Simulation {
 
@@ -73,7 +73,7 @@ bool TakeNumber(std::string_view& rest, double& value) {
     SkipWhiteSpace(rest);
     const std::size_t length = NumberLength(rest);
     double read = 0.0;
-    const bool whole = Text::ReadWholeNumber(rest.substr(0, length), read);
+    const bool whole = Text::ReadEntireNumber(rest.substr(0, length), read);
     rest.remove_prefix(length);
     if (!whole || !std::isfinite(read)) {
         return false;

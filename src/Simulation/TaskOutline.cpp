@@ -1,15 +1,15 @@
 #include "Simulation/TaskOutline.hpp"
 
-#include "Simulation/GridField.hpp"
-#include "Simulation/Isolines.hpp"
-#include "Simulation/NodeDistances.hpp"
-#include "Simulation/PolygonGeometry.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <utility>
+
+#include "Simulation/GridField.hpp"
+#include "Simulation/Isolines.hpp"
+#include "Simulation/NodeDistances.hpp"
+#include "Simulation/PolygonGeometry.hpp"
 
 namespace Merivane::Simulation {
 

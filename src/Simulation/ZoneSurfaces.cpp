@@ -1,10 +1,10 @@
 #include "Simulation/ZoneSurfaces.hpp"
 
-#include "Simulation/PolygonGeometry.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+
+#include "Simulation/PolygonGeometry.hpp"
 
 namespace Merivane::Simulation {
 

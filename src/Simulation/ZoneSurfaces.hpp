@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Simulation/CalculationGrid.hpp"
-#include "Simulation/Geometry.hpp"
-#include "Simulation/Scene.hpp"
-
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "Simulation/CalculationGrid.hpp"
+#include "Simulation/Geometry.hpp"
+#include "Simulation/Scene.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,10 +1,10 @@
 #include "Text/FileBytes.hpp"
 
-#include "Text/FileSync.hpp"
-
 #include <array>
 #include <cstdio>
 #include <memory>
+
+#include "Text/NativeFile.hpp"
 
 namespace Merivane::Text {
 

@@ -1,8 +1,8 @@
 #include "Text/NativePath.hpp"
 
-#include "Text/Utf8.hpp"
-
 #include <type_traits>
+
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Text {
 

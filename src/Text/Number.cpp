@@ -1,7 +1,5 @@
 #include "Text/Number.hpp"
 
-#include "Text/Ascii.hpp"
-
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -9,6 +7,8 @@
 #include <cstdint>
 #include <limits>
 #include <system_error>
+
+#include "Text/Ascii.hpp"
 
 namespace Merivane::Text {
 
@@ -92,7 +92,7 @@ std::size_t ReadNumber(std::string_view text, double& value) {
     return static_cast<std::size_t>(end - text.data());
 }
 
-bool ReadWholeNumber(std::string_view text, double& value) {
+bool ReadEntireNumber(std::string_view text, double& value) {
     double read = 0.0;
     const std::size_t length = ReadNumber(text, read);
     if (length == 0 || length != text.size()) {

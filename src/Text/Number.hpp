@@ -16,7 +16,7 @@ std::size_t ReadNumber(std::string_view text, double& value);
 
 /// Reads a number that must be the whole of `text`, by the rules of `ReadNumber`. Returns false,
 /// leaving `value` untouched, for an empty text and for anything left over.
-bool ReadWholeNumber(std::string_view text, double& value);
+bool ReadEntireNumber(std::string_view text, double& value);
 
 /// Shortest decimal text that reads back as the same double, plain or exponent form, whichever is
 /// shorter ("0.1", "1e+20", "1500"); "inf", "-inf", "nan" for what is not finite.

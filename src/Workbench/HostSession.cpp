@@ -1,7 +1,6 @@
-#include "Host/Session.hpp"
-
 #include <utility>
 
+#include "Host/Session.hpp"
 #include "Workbench/Session.hpp"
 #include "Workbench/SystemPlaces.hpp"
 

@@ -1,7 +1,6 @@
-#include "Host/Storage.hpp"
-
 #include <utility>
 
+#include "Host/Storage.hpp"
 #include "Workbench/PreferencesFile.hpp"
 #include "Workbench/Session.hpp"
 

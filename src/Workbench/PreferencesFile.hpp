@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Workbench/Session.hpp"
-
 #include <string>
 #include <string_view>
+
+#include "Workbench/Session.hpp"
 
 /// The preferences of the add-on between two sessions: a JSON object with `formato` (1), `versao`
 /// and `bloco`, the block's bytes in hexadecimal.

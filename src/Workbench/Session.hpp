@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Host/Types.hpp"
-
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "Host/Types.hpp"
 
 /// The embedded host: it defines the functions of the port, and keeps what a host keeps in one
 /// session that a test or the program opens and looks into.

@@ -1,8 +1,7 @@
-#include "Archicad/AddOnFolder.hpp"
-
-#include "Workbench/Session.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Archicad/AddOnFolder.hpp"
+#include "Workbench/Session.hpp"
 
 using namespace Merivane;
 

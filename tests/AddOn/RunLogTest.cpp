@@ -1,7 +1,3 @@
-#include "AddOn/RunLog/RunLog.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cstdint>
 #include <ctime>
 #include <filesystem>
@@ -10,6 +6,9 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include "AddOn/RunLog/RunLog.hpp"
 #include "Support/Places.hpp"
 #include "Support/Variable.hpp"
 #include "Text/NativePath.hpp"

@@ -1,11 +1,6 @@
 // Our numbers against libdouble-conversion, bit by bit and digit by digit. A run takes 200 000 of
 // them; VANTORO_JSON_NUMBERS=10000000 in the environment takes as many as one likes.
 
-#include "Catalog/Json.hpp"
-
-#include <double-conversion/double-conversion.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -14,6 +9,11 @@
 #include <cstring>
 #include <random>
 #include <string>
+
+#include <double-conversion/double-conversion.h>
+#include <gtest/gtest.h>
+
+#include "Catalog/Json.hpp"
 
 namespace Merivane::Catalog {
 namespace {

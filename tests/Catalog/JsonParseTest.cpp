@@ -1,10 +1,10 @@
-#include "Catalog/Json.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Catalog/Json.hpp"
 
 namespace Merivane::Catalog {
 namespace {

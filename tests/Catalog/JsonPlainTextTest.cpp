@@ -1,8 +1,8 @@
-#include "Catalog/JsonPlainText.hpp"
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include "Catalog/JsonPlainText.hpp"
 
 namespace Merivane::Catalog {
 namespace {

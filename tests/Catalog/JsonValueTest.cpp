@@ -1,11 +1,11 @@
-#include "Catalog/Json.hpp"
-
-#include <gtest/gtest.h>
-
 #include <random>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Catalog/Json.hpp"
 
 namespace Merivane::Catalog {
 namespace {

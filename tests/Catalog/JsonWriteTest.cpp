@@ -1,13 +1,13 @@
-#include "Catalog/Json.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <limits>
 #include <random>
 #include <string>
+
+#include <gtest/gtest.h>
+
+#include "Catalog/Json.hpp"
 
 namespace Merivane::Catalog {
 namespace {

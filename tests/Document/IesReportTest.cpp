@@ -1,12 +1,11 @@
-#include "Document/IesReport.hpp"
-
-#include "Catalog/Json.hpp"
-#include "SceneTexts.hpp"
-#include "Support/Places.hpp"
+#include <numbers>
 
 #include <gtest/gtest.h>
 
-#include <numbers>
+#include "Catalog/Json.hpp"
+#include "Document/IesReport.hpp"
+#include "SceneTexts.hpp"
+#include "Support/Places.hpp"
 
 namespace Merivane::Document {
 

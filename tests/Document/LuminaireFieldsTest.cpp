@@ -1,8 +1,8 @@
-#include "SceneTexts.hpp"
+#include <numbers>
 
 #include <gtest/gtest.h>
 
-#include <numbers>
+#include "SceneTexts.hpp"
 
 namespace Merivane::Document {
 

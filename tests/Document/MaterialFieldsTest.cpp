@@ -1,7 +1,7 @@
+#include <gtest/gtest.h>
+
 #include "SceneTexts.hpp"
 #include "Simulation/GlassTransmissivity.hpp"
-
-#include <gtest/gtest.h>
 
 namespace Merivane::Document {
 

@@ -1,6 +1,6 @@
-#include "Document/OutlineCheck.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Document/OutlineCheck.hpp"
 
 namespace Merivane::Document {
 

@@ -1,8 +1,7 @@
-#include "Document/PlanAssembly.hpp"
-
-#include "SceneTexts.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Document/PlanAssembly.hpp"
+#include "SceneTexts.hpp"
 
 namespace Merivane::Document {
 

@@ -1,9 +1,9 @@
-#include "Document/PlanFigures.hpp"
-
-#include "PlanSamples.hpp"
-
 #include <cmath>
+
 #include <gtest/gtest.h>
+
+#include "Document/PlanFigures.hpp"
+#include "PlanSamples.hpp"
 
 namespace Merivane::Document {
 namespace {

@@ -1,10 +1,10 @@
-#include "Document/PlanLabels.hpp"
-
-#include "PlanSamples.hpp"
-
 #include <cmath>
-#include <gtest/gtest.h>
 #include <limits>
+
+#include <gtest/gtest.h>
+
+#include "Document/PlanLabels.hpp"
+#include "PlanSamples.hpp"
 
 namespace Merivane::Document {
 namespace {

@@ -1,9 +1,8 @@
-#include "Document/PlanLegend.hpp"
+#include <gtest/gtest.h>
 
+#include "Document/PlanLegend.hpp"
 #include "PlanSamples.hpp"
 #include "Simulation/ColorScale.hpp"
-
-#include <gtest/gtest.h>
 
 namespace Merivane::Document {
 namespace {

@@ -1,10 +1,11 @@
 #include "PlanSamples.hpp"
 
-#include "Simulation/PointStatistics.hpp"
-
 #include <algorithm>
 #include <cmath>
+
 #include <gtest/gtest.h>
+
+#include "Simulation/PointStatistics.hpp"
 
 namespace Merivane::Document {
 

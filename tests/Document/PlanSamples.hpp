@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Document/ResultPlan.hpp"
-#include "Drawing/DisplayList.hpp"
-#include "Drawing/TextSize.hpp"
-
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "Document/ResultPlan.hpp"
+#include "Drawing/DisplayList.hpp"
+#include "Drawing/TextSize.hpp"
 
 namespace Merivane::Document {
 

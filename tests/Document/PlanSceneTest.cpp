@@ -1,8 +1,9 @@
-#include "Document/PlanScene.hpp"
-
 #include <cmath>
-#include <gtest/gtest.h>
 #include <numbers>
+
+#include <gtest/gtest.h>
+
+#include "Document/PlanScene.hpp"
 
 namespace Merivane::Document {
 namespace {

@@ -1,6 +1,6 @@
-#include "Document/PlanSheet.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Document/PlanSheet.hpp"
 
 namespace Merivane::Document {
 namespace {

@@ -1,8 +1,7 @@
-#include "Document/PlanSummary.hpp"
-
-#include "PlanSamples.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Document/PlanSummary.hpp"
+#include "PlanSamples.hpp"
 
 namespace Merivane::Document {
 namespace {

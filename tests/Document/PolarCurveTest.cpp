@@ -1,12 +1,12 @@
-#include "Document/PolarCurve.hpp"
-
-#include "Drawing/PngWriter.hpp"
-#include "PlanSamples.hpp"
-
 #include <algorithm>
 #include <cmath>
-#include <gtest/gtest.h>
 #include <limits>
+
+#include <gtest/gtest.h>
+
+#include "Document/PolarCurve.hpp"
+#include "Drawing/PngWriter.hpp"
+#include "PlanSamples.hpp"
 
 namespace Merivane::Document {
 namespace {

@@ -1,9 +1,8 @@
-#include "Document/ResultDocument.hpp"
+#include <gtest/gtest.h>
 
 #include "Catalog/Json.hpp"
+#include "Document/ResultDocument.hpp"
 #include "SceneTexts.hpp"
-
-#include <gtest/gtest.h>
 
 namespace Merivane::Document {
 

@@ -1,15 +1,15 @@
-#include "Document/ResultPlan.hpp"
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
 
+#include <gtest/gtest.h>
+
+#include "Document/ResultPlan.hpp"
 #include "Drawing/PdfWriter.hpp"
 #include "Drawing/PngWriter.hpp"
 #include "Drawing/SvgWriter.hpp"
 #include "PlanSamples.hpp"
-
-#include <algorithm>
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
-#include <random>
 
 namespace Merivane::Document {
 namespace {

@@ -1,8 +1,7 @@
-#include "Document/ResultTable.hpp"
+#include <gtest/gtest.h>
 
 #include "Document/PlanePoints.hpp"
-
-#include <gtest/gtest.h>
+#include "Document/ResultTable.hpp"
 
 namespace Merivane::Document {
 

@@ -1,10 +1,9 @@
-#include "Document/SceneDocument.hpp"
+#include <gtest/gtest.h>
 
+#include "Document/SceneDocument.hpp"
 #include "SceneTexts.hpp"
 #include "Support/Places.hpp"
 #include "Text/Utf8.hpp"
-
-#include <gtest/gtest.h>
 
 namespace Merivane::Document {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Document/SceneDocument.hpp"
-
 #include <string>
+
+#include "Document/SceneDocument.hpp"
 
 namespace Merivane::Tests {
 

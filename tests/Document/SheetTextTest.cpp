@@ -1,8 +1,7 @@
-#include "Document/SheetText.hpp"
-
-#include "Drawing/TextSize.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Document/SheetText.hpp"
+#include "Drawing/TextSize.hpp"
 
 namespace Merivane::Document {
 namespace {

@@ -1,6 +1,6 @@
-#include "Document/ShownText.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Document/ShownText.hpp"
 
 namespace Merivane::Document {
 

@@ -1,6 +1,6 @@
-#include "Document/SurfacePlane.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Document/SurfacePlane.hpp"
 
 namespace Merivane::Document {
 

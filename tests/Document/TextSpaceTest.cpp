@@ -1,8 +1,7 @@
-#include "Document/TextSpace.hpp"
+#include <gtest/gtest.h>
 
 #include "Document/SheetText.hpp"
-
-#include <gtest/gtest.h>
+#include "Document/TextSpace.hpp"
 
 namespace Merivane::Document {
 namespace {

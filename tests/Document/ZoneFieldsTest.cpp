@@ -1,6 +1,6 @@
-#include "SceneTexts.hpp"
-
 #include <gtest/gtest.h>
+
+#include "SceneTexts.hpp"
 
 namespace Merivane::Document {
 

@@ -1,7 +1,8 @@
-#include "Drawing/DisplayList.hpp"
+#include <limits>
 
 #include <gtest/gtest.h>
-#include <limits>
+
+#include "Drawing/DisplayList.hpp"
 
 namespace Merivane::Drawing {
 namespace {

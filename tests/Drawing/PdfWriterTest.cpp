@@ -1,7 +1,8 @@
-#include "Drawing/PdfWriter.hpp"
-
 #include <cstdlib>
+
 #include <gtest/gtest.h>
+
+#include "Drawing/PdfWriter.hpp"
 
 namespace Merivane::Drawing {
 namespace {

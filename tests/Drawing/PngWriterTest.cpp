@@ -1,12 +1,14 @@
-#include "Drawing/PngWriter.hpp"
-
 #include <algorithm>
-#include <cairo.h>
 #include <cstdint>
 #include <cstring>
-#include <gtest/gtest.h>
 #include <limits>
 #include <memory>
+
+#include <gtest/gtest.h>
+
+#include <cairo.h>
+
+#include "Drawing/PngWriter.hpp"
 
 namespace Merivane::Drawing {
 namespace {

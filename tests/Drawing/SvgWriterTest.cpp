@@ -1,7 +1,8 @@
-#include "Drawing/SvgWriter.hpp"
+#include <limits>
 
 #include <gtest/gtest.h>
-#include <limits>
+
+#include "Drawing/SvgWriter.hpp"
 
 namespace Merivane::Drawing {
 namespace {

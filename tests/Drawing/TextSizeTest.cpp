@@ -1,7 +1,8 @@
-#include "Drawing/TextSize.hpp"
-
 #include <cmath>
+
 #include <gtest/gtest.h>
+
+#include "Drawing/TextSize.hpp"
 
 namespace Merivane::Drawing {
 namespace {

@@ -1,12 +1,12 @@
 // The examples that are committed, the program that makes them, and the readers that they are for.
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"

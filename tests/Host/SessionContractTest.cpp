@@ -1,9 +1,8 @@
-#include "Host/Session.hpp"
+#include <filesystem>
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
+#include "Host/Session.hpp"
 #include "Text/NativePath.hpp"
 
 namespace Merivane::Host {

@@ -1,9 +1,9 @@
-#include "Host/Storage.hpp"
+#include <limits>
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <limits>
-#include <string>
+#include "Host/Storage.hpp"
 
 namespace Merivane::Host {
 namespace {

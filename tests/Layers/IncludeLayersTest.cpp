@@ -1,7 +1,3 @@
-#include "Support/Places.hpp"
-
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <map>
 #include <regex>
@@ -9,6 +5,10 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Support/Places.hpp"
 
 // The include lines of src read against the table of layers: an edge that points back up fails.
 namespace Merivane::Tests {

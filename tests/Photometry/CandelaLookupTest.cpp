@@ -1,13 +1,12 @@
-#include "Photometry/CandelaLookup.hpp"
-
-#include "AllocationCount.hpp"
-#include "IesSamples.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <random>
+
+#include <gtest/gtest.h>
+
+#include "AllocationCount.hpp"
+#include "IesSamples.hpp"
+#include "Photometry/CandelaLookup.hpp"
 
 namespace Merivane::Photometry {
 namespace {

@@ -1,11 +1,18 @@
 // Real files of many makers and programs. They are other people's and stand outside the project;
 // where the build was not told of them these tests are left out.
 
-#include "Photometry/IesReader.hpp"
+#include <cmath>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <sstream>
+
+#include <gtest/gtest.h>
 
 #include "Ies2rad.hpp"
 #include "IesSamples.hpp"
 #include "Photometry/CandelaLookup.hpp"
+#include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"
 #include "Photometry/IesWriter.hpp"
 #include "Photometry/OpeningCodes.hpp"
@@ -13,14 +20,6 @@
 #include "Support/Places.hpp"
 #include "Text/Number.hpp"
 #include "Text/Utf8.hpp"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <filesystem>
-#include <map>
-#include <set>
-#include <sstream>
 
 namespace Merivane::Photometry {
 namespace {
@@ -61,7 +60,7 @@ protected:
             file.name = columns[place["file"]];
             file.bytes = Tests::ReadBytes(folder / "ies" / file.name);
             file.typeC = columns[place["type"]] == "C";
-            ASSERT_TRUE(Text::ReadWholeNumber(columns[place["flux_lm_linear"]], file.flux));
+            ASSERT_TRUE(Text::ReadEntireNumber(columns[place["flux_lm_linear"]], file.flux));
             files.push_back(file);
         }
     }

@@ -1,8 +1,8 @@
 #include "Ies2rad.hpp"
 
-#include "Photometry/IesWriter.hpp"
-
 #include <cstdlib>
+
+#include "Photometry/IesWriter.hpp"
 
 namespace Merivane::Tests {
 

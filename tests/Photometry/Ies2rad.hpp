@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include "Photometry/IesFile.hpp"
 #include "Support/Places.hpp"
-
-#include <string>
 
 namespace Merivane::Tests {
 

@@ -1,6 +1,6 @@
-#include "Photometry/IesFile.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Photometry/IesFile.hpp"
 
 namespace Merivane::Photometry {
 namespace {

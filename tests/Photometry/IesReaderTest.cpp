@@ -1,15 +1,14 @@
-#include "Photometry/IesReader.hpp"
-
-#include "IesSamples.hpp"
-#include "Photometry/IesWriter.hpp"
-#include "Support/CommaLocale.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "IesSamples.hpp"
+#include "Photometry/IesReader.hpp"
+#include "Photometry/IesWriter.hpp"
+#include "Support/CommaLocale.hpp"
 
 namespace Merivane::Photometry {
 namespace {

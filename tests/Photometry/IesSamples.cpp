@@ -1,11 +1,11 @@
 #include "IesSamples.hpp"
 
-#include "Text/Number.hpp"
+#include <cmath>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <string_view>
+#include "Text/Number.hpp"
 
 namespace Merivane::Tests {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Photometry/IesFile.hpp"
-
 #include <functional>
 #include <random>
 #include <string>
 #include <vector>
+
+#include "Photometry/IesFile.hpp"
 
 namespace Merivane::Tests {
 

@@ -1,11 +1,10 @@
-#include "Photometry/IesText.hpp"
-
-#include "Text/Utf8.hpp"
+#include <random>
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <random>
-#include <string>
+#include "Photometry/IesText.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Photometry {
 namespace {

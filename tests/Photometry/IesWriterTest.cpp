@@ -1,12 +1,11 @@
-#include "Photometry/IesWriter.hpp"
-
-#include "IesSamples.hpp"
-#include "Photometry/IesReader.hpp"
-#include "Support/CommaLocale.hpp"
+#include <limits>
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include "IesSamples.hpp"
+#include "Photometry/IesReader.hpp"
+#include "Photometry/IesWriter.hpp"
+#include "Support/CommaLocale.hpp"
 
 namespace Merivane::Photometry {
 namespace {

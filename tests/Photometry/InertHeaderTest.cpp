@@ -1,10 +1,9 @@
-#include "Photometry/InertHeader.hpp"
+#include <gtest/gtest.h>
 
 #include "Ies2rad.hpp"
 #include "IesSamples.hpp"
+#include "Photometry/InertHeader.hpp"
 #include "Photometry/OpeningCodes.hpp"
-
-#include <gtest/gtest.h>
 
 namespace Merivane::Photometry {
 namespace {

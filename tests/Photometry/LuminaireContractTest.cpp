@@ -1,6 +1,6 @@
-#include "Photometry/LuminaireContract.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Photometry/LuminaireContract.hpp"
 
 namespace Merivane::Photometry {
 namespace {

@@ -1,10 +1,10 @@
-#include "Photometry/LuminaireRotation.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <numbers>
 #include <random>
+
+#include <gtest/gtest.h>
+
+#include "Photometry/LuminaireRotation.hpp"
 
 namespace Merivane::Photometry {
 namespace {

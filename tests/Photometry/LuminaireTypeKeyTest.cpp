@@ -1,6 +1,6 @@
-#include "Photometry/LuminaireTypeKey.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Photometry/LuminaireTypeKey.hpp"
 
 namespace Merivane::Photometry {
 namespace {

@@ -1,6 +1,6 @@
-#include "Photometry/NumberCursor.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Photometry/NumberCursor.hpp"
 
 namespace Merivane::Photometry {
 namespace {

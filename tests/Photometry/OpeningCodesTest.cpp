@@ -1,14 +1,13 @@
-#include "Photometry/OpeningCodes.hpp"
+#include <cmath>
+#include <limits>
+#include <set>
+
+#include <gtest/gtest.h>
 
 #include "Ies2rad.hpp"
 #include "IesSamples.hpp"
 #include "Photometry/IesWriter.hpp"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <set>
+#include "Photometry/OpeningCodes.hpp"
 
 namespace Merivane::Photometry {
 namespace {

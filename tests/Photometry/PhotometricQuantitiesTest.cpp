@@ -1,14 +1,13 @@
-#include "Photometry/PhotometricQuantities.hpp"
-
-#include "IesSamples.hpp"
-#include "Photometry/CandelaLookup.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <numbers>
 #include <random>
+
+#include <gtest/gtest.h>
+
+#include "IesSamples.hpp"
+#include "Photometry/CandelaLookup.hpp"
+#include "Photometry/PhotometricQuantities.hpp"
 
 namespace Merivane::Photometry {
 namespace {

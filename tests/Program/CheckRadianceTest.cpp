@@ -1,8 +1,8 @@
+#include <gtest/gtest.h>
+
 #include "Program/ProgramRun.hpp"
 #include "Program/SampleScene.hpp"
 #include "Support/Places.hpp"
-
-#include <gtest/gtest.h>
 
 namespace Merivane::Tests {
 

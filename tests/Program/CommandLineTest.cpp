@@ -1,6 +1,6 @@
-#include "Program/ProgramRun.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Program/ProgramRun.hpp"
 
 namespace Merivane::Tests {
 

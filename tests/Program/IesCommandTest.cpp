@@ -1,9 +1,9 @@
+#include <gtest/gtest.h>
+
 #include "Catalog/Json.hpp"
 #include "Program/ProgramRun.hpp"
 #include "Program/SampleScene.hpp"
 #include "Support/Places.hpp"
-
-#include <gtest/gtest.h>
 
 namespace Merivane::Tests {
 

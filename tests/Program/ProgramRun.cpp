@@ -1,16 +1,16 @@
 #include "Program/ProgramRun.hpp"
 
-#include "Support/Places.hpp"
-
-#include <gtest/gtest.h>
-
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <system_error>
 
+#include <gtest/gtest.h>
+
 #include <sys/wait.h>
+
+#include "Support/Places.hpp"
 
 namespace Merivane::Tests {
 

@@ -1,16 +1,16 @@
-#include "Catalog/Json.hpp"
-#include "Program/ProgramRun.hpp"
-#include "Program/SampleScene.hpp"
-#include "Support/Places.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <set>
 #include <string>
 #include <thread>
+
+#include <gtest/gtest.h>
+
+#include "Catalog/Json.hpp"
+#include "Program/ProgramRun.hpp"
+#include "Program/SampleScene.hpp"
+#include "Support/Places.hpp"
 
 namespace Merivane::Tests {
 

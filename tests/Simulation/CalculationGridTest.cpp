@@ -1,16 +1,15 @@
-#include "Simulation/CalculationGrid.hpp"
-
-#include "Simulation/PolygonGeometry.hpp"
-#include "Simulation/RandomPolygons.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/CalculationGrid.hpp"
+#include "Simulation/PolygonGeometry.hpp"
+#include "Simulation/RandomPolygons.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,6 +1,6 @@
-#include "Simulation/CellSegments.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Simulation/CellSegments.hpp"
 
 namespace Merivane::Tests {
 

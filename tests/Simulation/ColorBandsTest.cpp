@@ -1,12 +1,12 @@
-#include "Simulation/ColorBands.hpp"
-#include "ContourFields.hpp"
-#include "Simulation/BandRings.hpp"
-#include "Simulation/HoleOwners.hpp"
+#include <cmath>
+#include <random>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <random>
+#include "ContourFields.hpp"
+#include "Simulation/BandRings.hpp"
+#include "Simulation/ColorBands.hpp"
+#include "Simulation/HoleOwners.hpp"
 
 namespace Merivane::Tests {
 

@@ -1,6 +1,6 @@
-#include "Simulation/ColorScale.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Simulation/ColorScale.hpp"
 
 namespace Merivane::Tests {
 

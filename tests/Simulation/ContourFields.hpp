@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Simulation/GridField.hpp"
-
 #include <cstddef>
 #include <initializer_list>
 #include <limits>
 #include <vector>
+
+#include "Simulation/GridField.hpp"
 
 namespace Merivane::Tests {
 

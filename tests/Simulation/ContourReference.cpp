@@ -1,7 +1,5 @@
 #include "ContourReference.hpp"
 
-#include "Simulation/CellSegments.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -10,6 +8,8 @@
 #include <optional>
 #include <tuple>
 #include <utility>
+
+#include "Simulation/CellSegments.hpp"
 
 namespace Merivane::Tests {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include "Simulation/ContourRecords.hpp"
 #include "Simulation/GridField.hpp"
 #include "Simulation/LevelList.hpp"
-
-#include <cstdint>
-#include <vector>
 
 namespace Merivane::Tests {
 

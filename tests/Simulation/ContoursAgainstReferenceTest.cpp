@@ -1,16 +1,16 @@
 // Fast and slow way to contours, on random fields of every kind that has ever been hard: values
 // equal to levels, flat areas, saddles, holes that touch in a node, values that are not finite.
-#include "ContourReference.hpp"
-#include "Simulation/ColorBands.hpp"
-#include "Simulation/Isolines.hpp"
-#include "Simulation/RingSimplification.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <random>
 #include <string>
+
+#include <gtest/gtest.h>
+
+#include "ContourReference.hpp"
+#include "Simulation/ColorBands.hpp"
+#include "Simulation/Isolines.hpp"
+#include "Simulation/RingSimplification.hpp"
 
 namespace Merivane::Tests {
 

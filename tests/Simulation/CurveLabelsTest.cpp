@@ -1,9 +1,9 @@
-#include "Simulation/CurveLabels.hpp"
+#include <cmath>
+#include <random>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <random>
+#include "Simulation/CurveLabels.hpp"
 
 namespace Merivane::Tests {
 

@@ -1,6 +1,6 @@
-#include "Simulation/EngineDialogTexts.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Simulation/EngineDialogTexts.hpp"
 
 namespace Merivane::Simulation {
 namespace {

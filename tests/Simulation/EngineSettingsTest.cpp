@@ -1,13 +1,13 @@
-#include "Simulation/EngineSettings.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/EngineSettings.hpp"
 
 namespace Merivane::Simulation {
 namespace {

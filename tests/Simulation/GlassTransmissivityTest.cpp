@@ -1,8 +1,8 @@
-#include "Simulation/GlassTransmissivity.hpp"
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include "Simulation/GlassTransmissivity.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,15 +1,14 @@
-#include "Simulation/GridField.hpp"
-
-#include "Simulation/RandomPolygons.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/GridField.hpp"
+#include "Simulation/RandomPolygons.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,9 +1,9 @@
-#include "Simulation/HoleOwners.hpp"
+#include <cmath>
+#include <random>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <random>
+#include "Simulation/HoleOwners.hpp"
 
 namespace Merivane::Tests {
 

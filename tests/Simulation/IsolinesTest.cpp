@@ -1,7 +1,7 @@
-#include "Simulation/Isolines.hpp"
-#include "ContourFields.hpp"
-
 #include <gtest/gtest.h>
+
+#include "ContourFields.hpp"
+#include "Simulation/Isolines.hpp"
 
 namespace Merivane::Tests {
 

@@ -1,9 +1,9 @@
-#include "Simulation/LastRunRecord.hpp"
+#include <cstddef>
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
-#include <string>
+#include "Simulation/LastRunRecord.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,14 +1,13 @@
-#include "Simulation/LevelList.hpp"
-
-#include "Simulation/RandomPolygons.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/LevelList.hpp"
+#include "Simulation/RandomPolygons.hpp"
 
 namespace Merivane::Simulation {
 namespace {

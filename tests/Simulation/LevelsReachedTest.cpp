@@ -1,9 +1,9 @@
-#include "Simulation/LevelsReached.hpp"
+#include <limits>
+#include <random>
 
 #include <gtest/gtest.h>
 
-#include <limits>
-#include <random>
+#include "Simulation/LevelsReached.hpp"
 
 namespace Merivane::Tests {
 

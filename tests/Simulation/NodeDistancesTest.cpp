@@ -1,14 +1,13 @@
-#include "Simulation/NodeDistances.hpp"
-
-#include "Simulation/PolygonGeometry.hpp"
-#include "Simulation/RandomPolygons.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/NodeDistances.hpp"
+#include "Simulation/PolygonGeometry.hpp"
+#include "Simulation/RandomPolygons.hpp"
 
 namespace Merivane::Simulation {
 namespace {

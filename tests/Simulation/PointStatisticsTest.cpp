@@ -1,9 +1,9 @@
-#include "Simulation/PointStatistics.hpp"
+#include <cstddef>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
-#include <vector>
+#include "Simulation/PointStatistics.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,12 +1,11 @@
-#include "Simulation/PolygonGeometry.hpp"
-
-#include "Simulation/RandomPolygons.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/PolygonGeometry.hpp"
+#include "Simulation/RandomPolygons.hpp"
 
 namespace Merivane::Simulation {
 namespace {

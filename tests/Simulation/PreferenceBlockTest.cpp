@@ -1,14 +1,13 @@
-#include "Simulation/PreferenceBlock.hpp"
-
-#include "Simulation/EngineSettings.hpp"
-#include "Simulation/LastRunRecord.hpp"
-#include "Simulation/RandomPolygons.hpp"
-
-#include <gtest/gtest.h>
-
 #include <cstddef>
 #include <string>
 #include <string_view>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/EngineSettings.hpp"
+#include "Simulation/LastRunRecord.hpp"
+#include "Simulation/PreferenceBlock.hpp"
+#include "Simulation/RandomPolygons.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,14 +1,13 @@
-#include "Simulation/PrintedValue.hpp"
-
-#include "Simulation/RandomPolygons.hpp"
-#include "Text/Number.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <string>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/PrintedValue.hpp"
+#include "Simulation/RandomPolygons.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Simulation {
 namespace {
@@ -67,7 +66,7 @@ TEST(FormatDecimal, TellsExactlyWhatIsCompared) {
         std::string text = FormatDecimal(value, decimals);
         std::replace(text.begin(), text.end(), ',', '.');
         double read = 0.0;
-        ASSERT_TRUE(Text::ReadWholeNumber(text, read));
+        ASSERT_TRUE(Text::ReadEntireNumber(text, read));
         ASSERT_EQ(read, PrintedValue(value, decimals)) << text;
     }
 }

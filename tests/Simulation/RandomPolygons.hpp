@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Simulation/Geometry.hpp"
-
 #include <cmath>
 #include <cstddef>
 #include <random>
 #include <vector>
+
+#include "Simulation/Geometry.hpp"
 
 /// Polygons by chance, the same in every run of the same seed.
 namespace Merivane::Tests {

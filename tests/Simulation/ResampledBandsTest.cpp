@@ -1,16 +1,15 @@
-#include "Simulation/ResampledBands.hpp"
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <vector>
+
+#include <gtest/gtest.h>
 
 #include "Simulation/ColorBands.hpp"
 #include "Simulation/GridField.hpp"
 #include "Simulation/PolygonGeometry.hpp"
 #include "Simulation/RandomPolygons.hpp"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <cstddef>
-#include <vector>
+#include "Simulation/ResampledBands.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,6 +1,6 @@
-#include "Simulation/RingSimplification.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Simulation/RingSimplification.hpp"
 
 namespace Merivane::Tests {
 

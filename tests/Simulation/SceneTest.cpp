@@ -1,9 +1,9 @@
-#include "Simulation/Scene.hpp"
+#include <cstddef>
+#include <cstdint>
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
-#include <cstdint>
+#include "Simulation/Scene.hpp"
 
 namespace Merivane::Simulation {
 namespace {

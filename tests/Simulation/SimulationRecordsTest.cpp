@@ -1,6 +1,6 @@
-#include "Simulation/SimulationRecords.hpp"
-
 #include <gtest/gtest.h>
+
+#include "Simulation/SimulationRecords.hpp"
 
 namespace Merivane::Simulation {
 namespace {

@@ -1,10 +1,10 @@
-#include "Simulation/StoredText.hpp"
-
-#include <gtest/gtest.h>
-
 #include <sstream>
 #include <string>
 #include <string_view>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/StoredText.hpp"
 
 namespace Merivane::Simulation {
 namespace {

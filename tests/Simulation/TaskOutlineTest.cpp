@@ -1,17 +1,16 @@
-#include "Simulation/TaskOutline.hpp"
-
-#include "Simulation/GridField.hpp"
-#include "Simulation/Isolines.hpp"
-#include "Simulation/PolygonGeometry.hpp"
-#include "Simulation/RandomPolygons.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/GridField.hpp"
+#include "Simulation/Isolines.hpp"
+#include "Simulation/PolygonGeometry.hpp"
+#include "Simulation/RandomPolygons.hpp"
+#include "Simulation/TaskOutline.hpp"
 
 namespace Merivane::Simulation {
 namespace {

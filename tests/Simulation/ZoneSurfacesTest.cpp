@@ -1,14 +1,13 @@
-#include "Simulation/ZoneSurfaces.hpp"
-
-#include "Simulation/PolygonGeometry.hpp"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Simulation/PolygonGeometry.hpp"
+#include "Simulation/ZoneSurfaces.hpp"
 
 namespace Merivane::Simulation {
 namespace {

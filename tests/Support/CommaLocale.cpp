@@ -1,8 +1,8 @@
 #include "Support/CommaLocale.hpp"
 
-#include "Support/Places.hpp"
-
 #include <cstdlib>
+
+#include "Support/Places.hpp"
 
 namespace Merivane::Tests {
 

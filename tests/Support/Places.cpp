@@ -1,11 +1,11 @@
 #include "Support/Places.hpp"
 
-#include <gtest/gtest.h>
-
 #include <atomic>
 #include <fstream>
 #include <iterator>
 #include <system_error>
+
+#include <gtest/gtest.h>
 
 #include <unistd.h>
 

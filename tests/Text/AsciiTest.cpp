@@ -1,8 +1,8 @@
-#include "Text/Ascii.hpp"
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include "Text/Ascii.hpp"
 
 namespace Merivane::Text {
 namespace {

@@ -1,13 +1,12 @@
-#include "Text/FileBytes.hpp"
-
-#include "Support/Places.hpp"
-#include "Text/Utf8.hpp"
-
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <iterator>
 #include <string>
+
+#include <gtest/gtest.h>
+
+#include "Support/Places.hpp"
+#include "Text/FileBytes.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Text {
 namespace {

@@ -1,12 +1,11 @@
-#include "Text/NativePath.hpp"
-
-#include "Support/Places.hpp"
-#include "Text/FileBytes.hpp"
-#include "Text/Utf8.hpp"
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include "Support/Places.hpp"
+#include "Text/FileBytes.hpp"
+#include "Text/NativePath.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Text {
 namespace {

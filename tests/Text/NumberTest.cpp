@@ -1,9 +1,3 @@
-#include "Text/Number.hpp"
-
-#include "Support/CommaLocale.hpp"
-
-#include <gtest/gtest.h>
-
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -11,10 +5,16 @@
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
-#include <locale.h>
 #include <random>
 #include <sstream>
 #include <string>
+
+#include <gtest/gtest.h>
+
+#include <locale.h>
+
+#include "Support/CommaLocale.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Text {
 namespace {
@@ -316,15 +316,15 @@ TEST(ReadNumber, LeavesTheValueAloneWhenThereIsNone) {
     }
 }
 
-TEST(ReadWholeNumber, RefusesWhatIsLeftOver) {
+TEST(ReadEntireNumber, RefusesWhatIsLeftOver) {
     for (const char* text : {"", " ", "1 ", "1x", "1,5", "1e", "0x", "nan(", "--1", "1\v"}) {
         double value = 7.0;
-        EXPECT_FALSE(ReadWholeNumber(text, value)) << text;
+        EXPECT_FALSE(ReadEntireNumber(text, value)) << text;
         EXPECT_EQ(value, 7.0) << text;
     }
     double value = 0.0;
-    EXPECT_FALSE(ReadWholeNumber(std::string_view("1\0", 2), value)); // no end of text inside
-    EXPECT_TRUE(ReadWholeNumber(" \t-1.5e2", value));
+    EXPECT_FALSE(ReadEntireNumber(std::string_view("1\0", 2), value)); // no end of text inside
+    EXPECT_TRUE(ReadEntireNumber(" \t-1.5e2", value));
     EXPECT_EQ(value, -150.0);
 }
 
@@ -373,7 +373,7 @@ TEST(FormatShortest, ReadsBackAsTheSameDoubleAndHasNoDigitToSpare) {
         }
         const std::string text = FormatShortest(value);
         double back = 0.0;
-        ASSERT_TRUE(ReadWholeNumber(text, back)) << text;
+        ASSERT_TRUE(ReadEntireNumber(text, back)) << text;
         ASSERT_EQ(Bits(back), Bits(value)) << text;
         // No precision of the C library that reads back gives a shorter mantissa.
         char scientific[64];

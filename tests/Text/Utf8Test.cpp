@@ -1,9 +1,9 @@
-#include "Text/Utf8.hpp"
+#include <random>
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <random>
-#include <string>
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Text {
 namespace {

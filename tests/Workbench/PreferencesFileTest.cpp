@@ -1,11 +1,10 @@
-#include "Workbench/PreferencesFile.hpp"
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "Support/Places.hpp"
 #include "Text/NativePath.hpp"
+#include "Workbench/PreferencesFile.hpp"
 
 namespace Merivane::Workbench {
 namespace {

@@ -1,15 +1,14 @@
-#include "Workbench/Session.hpp"
-
-#include <gtest/gtest.h>
-
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "Host/Session.hpp"
 #include "Host/Storage.hpp"
 #include "Support/Places.hpp"
 #include "Text/NativePath.hpp"
+#include "Workbench/Session.hpp"
 
 namespace Merivane::Workbench {
 namespace {

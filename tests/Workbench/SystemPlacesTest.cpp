@@ -1,12 +1,11 @@
-#include "Workbench/SystemPlaces.hpp"
-
-#include <gtest/gtest.h>
-
 #include <optional>
 #include <string>
 
+#include <gtest/gtest.h>
+
 #include "Support/Variable.hpp"
 #include "Text/NativePath.hpp"
+#include "Workbench/SystemPlaces.hpp"
 
 namespace Merivane::Workbench {
 namespace {

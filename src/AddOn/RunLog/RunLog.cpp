@@ -10,7 +10,7 @@
 
 #include "Host/Session.hpp"
 #include "Text/Ascii.hpp"
-#include "Text/FileSync.hpp"
+#include "Text/NativeFile.hpp"
 #include "Text/NativePath.hpp"
 #include "Text/Utf8.hpp"
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Host/Types.hpp"
-
 #include <string>
 #include <string_view>
+
+#include "Host/Types.hpp"
 
 /// The trace that a command leaves: three text files in the folder "Vantoro" of the system's
 /// temporary folder, and the host's report window. Each file is opened, written and closed for

@@ -1,12 +1,12 @@
 #include "Simulation/Run/FolderLock.hpp"
 
-#include "Text/Utf8.hpp"
-
 #include <cerrno>
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
+
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,10 +1,10 @@
 #include "Simulation/Run/InstallationReport.hpp"
 
-#include "Simulation/PrintedValue.hpp"
-#include "Text/Utf8.hpp"
-
 #include <algorithm>
 #include <array>
+
+#include "Simulation/PrintedValue.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Simulation {
 

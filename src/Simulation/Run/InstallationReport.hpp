@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include "Radiance/Installation.hpp"
 #include "Simulation/Run/SelfTest.hpp"
-
-#include <string>
 
 namespace Merivane::Simulation {
 

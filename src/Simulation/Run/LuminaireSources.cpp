@@ -1,10 +1,10 @@
+#include <unordered_map>
+
 #include "Photometry/IesWriter.hpp"
 #include "Photometry/OpeningCodes.hpp"
 #include "Radiance/LuminaireSource.hpp"
 #include "Radiance/RtraceShares.hpp"
 #include "Simulation/Run/RunSteps.hpp"
-
-#include <unordered_map>
 
 namespace Merivane::Simulation {
 

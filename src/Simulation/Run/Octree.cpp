@@ -1,6 +1,6 @@
 #include "Radiance/RtraceOptions.hpp"
 #include "Simulation/Run/RunSteps.hpp"
-#include "Text/FileSync.hpp"
+#include "Text/NativeFile.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,9 +1,9 @@
+#include <thread>
+
 #include "Radiance/RtraceOptions.hpp"
 #include "Radiance/RtraceOutput.hpp"
 #include "Radiance/RtraceShares.hpp"
 #include "Simulation/Run/RunSteps.hpp"
-
-#include <thread>
 
 namespace Merivane::Simulation {
 

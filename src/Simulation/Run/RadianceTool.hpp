@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Radiance/ProcessRunner.hpp"
-#include "Simulation/SimulationRecords.hpp"
-
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "Radiance/ProcessRunner.hpp"
+#include "Simulation/SimulationRecords.hpp"
 
 namespace Merivane::Simulation {
 

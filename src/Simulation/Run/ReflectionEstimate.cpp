@@ -1,10 +1,10 @@
 #include "Simulation/Run/ReflectionEstimate.hpp"
 
-#include "Radiance/RtraceOptions.hpp"
-#include "Simulation/PrintedValue.hpp"
-
 #include <cmath>
 #include <cstddef>
+
+#include "Radiance/RtraceOptions.hpp"
+#include "Simulation/PrintedValue.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,12 +1,12 @@
 #include "Simulation/Run/RunContext.hpp"
 
-#include "Text/FileBytes.hpp"
-#include "Text/FileSync.hpp"
-#include "Text/Utf8.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cstdio>
+
+#include "Text/FileBytes.hpp"
+#include "Text/NativeFile.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Simulation/Run/RadianceTool.hpp"
-#include "Simulation/Run/RunSimulation.hpp"
-
 #include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "Simulation/Run/RadianceTool.hpp"
+#include "Simulation/Run/RunSimulation.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,8 +1,8 @@
 #include "Simulation/Run/RunSimulation.hpp"
 
-#include "Simulation/Run/RunSteps.hpp"
-
 #include <utility>
+
+#include "Simulation/Run/RunSteps.hpp"
 
 namespace Merivane::Simulation {
 

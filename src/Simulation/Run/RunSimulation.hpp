@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Simulation/Scene.hpp"
-#include "Simulation/SimulationRecords.hpp"
-
 #include <functional>
 #include <string>
+
+#include "Simulation/Scene.hpp"
+#include "Simulation/SimulationRecords.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,13 +1,13 @@
-#include "Simulation/Run/FolderLock.hpp"
-#include "Simulation/Run/RunSteps.hpp"
-#include "Text/FileSync.hpp"
-#include "Text/NativePath.hpp"
-#include "Text/Utf8.hpp"
-
 #include <algorithm>
 #include <array>
 #include <filesystem>
 #include <system_error>
+
+#include "Simulation/Run/FolderLock.hpp"
+#include "Simulation/Run/RunSteps.hpp"
+#include "Text/NativeFile.hpp"
+#include "Text/NativePath.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Simulation {
 

@@ -1,4 +1,4 @@
-#include "Text/FileSync.hpp"
+#include "Text/NativeFile.hpp"
 
 #include "Support/Places.hpp"
 #include "Text/NativePath.hpp"

@@ -1,4 +1,4 @@
-#include "Text/FileSync.hpp"
+#include "Text/NativeFile.hpp"
 
 #include <io.h>
 #include <windows.h>

@@ -1,8 +1,8 @@
-#include "Text/FileSync.hpp"
-
-#include "Text/Utf8.hpp"
+#include "Text/NativeFile.hpp"
 
 #include <unistd.h>
+
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Text {
 
