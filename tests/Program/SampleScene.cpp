@@ -53,7 +53,7 @@ std::filesystem::path WriteSampleScene(const std::filesystem::path& folder) {
 }
 
 std::filesystem::path CopyProgram(const std::filesystem::path& folder) {
-    const std::filesystem::path program = folder / "vantoro";
+    std::filesystem::path program = folder / "vantoro";
     std::filesystem::copy_file(BuildFolder() / "vantoro", program);
     const std::filesystem::path real = BuildFolder() / "Vantoro Radiance";
     std::filesystem::create_directories(ToolsBeside(program));

@@ -340,9 +340,10 @@ TEST(Simulate, StopsOnInterruptWithinFiveSecondsAndLeavesNoChild) {
         call.program = CopyProgram(place.Path());
         ReplaceTool(call.program, "rtrace", RtraceThat("touch " + begun + "\nsleep 60"));
         // A watcher sends the signal once the calculation has begun and notes when.
-        call.prelude = run.SetTemporary() + "export " + mark + "; me=$$; (while [ ! -e " + begun +
-                       " ]; do sleep 0.05; done; date +%s.%N >" + asked + "; kill -" + signal +
-                       " $me) >/dev/null 2>&1 &";
+        call.prelude = run.SetTemporary() + "export " + mark + " SIGNAL=" + signal;
+        call.prelude += " BEGUN=" + begun + " ASKED=" + asked;
+        call.prelude += "; me=$$; (while [ ! -e \"$BEGUN\" ]; do sleep 0.05; done; "
+                        "date +%s.%N >\"$ASKED\"; kill -$SIGNAL $me) >/dev/null 2>&1 &";
         const ProgramEnd end = RunVantoro(run.Arguments({"--silencioso"}), call);
         const double ended = SystemSeconds();
         EXPECT_EQ(end.status, 130);
