@@ -84,6 +84,15 @@ bool AllGone(const std::string& mark) {
     return ProcessesWith(mark) == 0;
 }
 
+/// Shell commands that send the program a signal once the file `begun` is there, and note the time
+/// of it in the file `asked`. `mark` stands in the environment of all.
+std::string WatcherThatSends(const std::string& signal, const std::string& mark,
+                             const std::string& begun, const std::string& asked) {
+    return "export " + mark + "; me=$$; (while [ ! -e " + begun +
+           " ]; do sleep 0.05; done; date +%s.%N >" + asked + "; kill -" + signal +
+           " $me) >/dev/null 2>&1 &";
+}
+
 /// Seconds since 1970, as `date +%s.%N` gives them.
 double SystemSeconds() {
     return std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch())
@@ -339,11 +348,7 @@ TEST(Simulate, StopsOnInterruptWithinFiveSecondsAndLeavesNoChild) {
         ProgramCall call;
         call.program = CopyProgram(place.Path());
         ReplaceTool(call.program, "rtrace", RtraceThat("touch " + begun + "\nsleep 60"));
-        // A watcher sends the signal once the calculation has begun and notes when.
-        call.prelude = run.SetTemporary() + "export " + mark + " SIGNAL=" + signal;
-        call.prelude += " BEGUN=" + begun + " ASKED=" + asked;
-        call.prelude += "; me=$$; (while [ ! -e \"$BEGUN\" ]; do sleep 0.05; done; "
-                        "date +%s.%N >\"$ASKED\"; kill -$SIGNAL $me) >/dev/null 2>&1 &";
+        call.prelude = run.SetTemporary() + WatcherThatSends(signal, mark, begun, asked);
         const ProgramEnd end = RunVantoro(run.Arguments({"--silencioso"}), call);
         const double ended = SystemSeconds();
         EXPECT_EQ(end.status, 130);
