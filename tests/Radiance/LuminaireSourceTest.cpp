@@ -52,10 +52,12 @@ TEST(ScaledPhotometry, StretchesFluxAndTheLongerSide) {
         SceneLuminaire luminaire = Luminaire();
         luminaire.photometry.width = c.width;
         luminaire.photometry.length = c.length;
+        luminaire.photometry.height = 0.07;
         luminaire.lengthScale = c.scale;
         const Photometry::IesFile scaled = ScaledPhotometry(luminaire);
         EXPECT_EQ(scaled.width, c.scaledWidth);
         EXPECT_EQ(scaled.length, c.scaledLength);
+        EXPECT_EQ(scaled.height, 0.07);
         EXPECT_EQ(scaled.candelaMultiplier, 2.0 * c.scale);
         EXPECT_EQ(scaled.candela, luminaire.photometry.candela);
     }

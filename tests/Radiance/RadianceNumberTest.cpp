@@ -1,4 +1,4 @@
-#include <clocale>
+#include <locale>
 
 #include <gtest/gtest.h>
 
@@ -33,6 +33,20 @@ TEST(FormatNumber, PrintsFixedDecimalsAndDropsTheSignOfTwoZerosOnly) {
         SCOPED_TRACE(c.text);
         EXPECT_EQ(FormatNumber(c.value, c.decimals), c.text);
     }
+}
+
+// What a program's user may have set: 1.234.567,5.
+struct CommaNumbers : std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+TEST(FormatNumber, KeepsThePointWhateverTheLocale) {
+    const std::locale before = std::locale::global(std::locale({}, new CommaNumbers));
+    const std::string text = FormatNumber(1234567.5, 6);
+    std::locale::global(before);
+    EXPECT_EQ(text, "1234567.500000");
 }
 
 } // namespace

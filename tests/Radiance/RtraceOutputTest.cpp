@@ -23,6 +23,7 @@ TEST(ParseIlluminance, ReadsOneValueALine) {
         {"1 1 1\n2 2 2\n", 2, true, 2},
         {"1\t1\t1\t\r\n2 2 2", 2, true, 2},
         {"1 1 1\n\n", 1, true, 1},
+        {" \t\n1 1 1\n  ", 1, true, 1}, // blanks alone are an empty line
         {"texto\n1 1 1\n", 1, true, 1}, // stray text is skipped
         {"# 1 1 1\n1 1 1\n", 1, true, 1},
         {"1 1 1 9 9\n", 1, true, 1}, // what follows the third number is not looked at

@@ -91,6 +91,13 @@ TEST_F(RunFailures, SceneFilesCantBeWritten) {
     }
 }
 
+TEST_F(RunFailures, FirstSceneFileEndsTheWriting) {
+    Block("materials.rad");
+    Error();
+    EXPECT_FALSE(fs::exists(Work() / "geometry.rad"));
+    EXPECT_FALSE(fs::exists(Work() / "sensors.pts"));
+}
+
 TEST_F(RunFailures, NoPointAnywhere) {
     scene.points.clear();
     scene.sensorPlanes[0].grid.active.assign(scene.sensorPlanes[0].grid.active.size(), false);
@@ -107,6 +114,15 @@ TEST_F(RunFailures, GridBeyondTwentyMillionNodes) {
     grid.columns = INT32_MAX;
     grid.rows = INT32_MAX;
     EXPECT_EQ(Error(), "Sala: a malha de calculo tem mais de 20 milhoes de nos");
+}
+
+TEST_F(RunFailures, GridOfTwentyMillionNodesIsNotTooLarge) {
+    CalculationGrid& grid = scene.sensorPlanes[0].grid;
+    grid.columns = 5'000'000;
+    grid.rows = 4;
+    grid.active.assign(20'000'000, false);
+    scene.points.clear();
+    EXPECT_EQ(Error(), "nenhum ponto de calculo nas zonas");
 }
 
 TEST_F(RunFailures, PhotometryCantBeWritten) {

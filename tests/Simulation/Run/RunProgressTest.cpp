@@ -132,6 +132,30 @@ TEST(RunProgress, CountsTheLinesOfAllOutputs) {
     EXPECT_TRUE(fractions.contains(1.0));
 }
 
+TEST(RunProgress, CountsLoosePointsTwice) {
+    const TemporaryFolder folder;
+    const ProgramFolder programs(folder.Path() / "radiance");
+    // The direct pass writes one of its two values and waits until the test has seen it.
+    programs.Replace("rtrace", "echo 1 1 1\ncase \"$*\" in *'-ab 0'*)\n"
+                               "for i in $(seq 100); do [ -e visto ] || sleep 0.1; done ;; esac\n"
+                               "echo 1 1 1");
+    SimulationOptions options = RunOptions(folder.Path() / "t");
+    options.radianceBinFolder = Text::WidePath(programs.Path());
+    Scene scene = SmallRoom(1.0);
+    scene.sensorPlanes.clear();
+    scene.points = {{1, 1, 1, 0, 0, 1}, {2, 1, 1, 0, 0, 1}};
+    bool seen = false;
+    const auto progress = [&](SimulationStage stage, double fraction) {
+        if (stage == SimulationStage::Observers && fraction == 0.75) {
+            seen = true; // 3 of 4 lines
+            WriteBytes(folder.Path() / "t" / "visto", "");
+        }
+    };
+    const SimulationResult result = RunSimulation(scene, options, {}, {}, progress);
+    EXPECT_TRUE(result.success) << result.error;
+    EXPECT_TRUE(seen);
+}
+
 TEST(RunProgress, CountsAtMostTwiceASecond) {
     const TemporaryFolder folder;
     const ProgramFolder programs(folder.Path() / "radiance");

@@ -145,6 +145,22 @@ TEST(RunSimulation, GivesAPlaneWithoutPointsItsPlaceInTheResult) {
     EXPECT_LT(result.zones[3].statistics.mean, result.zones[1].statistics.mean);
 }
 
+TEST(RunSimulation, TakesLoosePointsBesidePlanesWithoutPoints) {
+    const TemporaryFolder folder;
+    Scene scene = SmallRoom(1.0);
+    std::vector<bool>& active = scene.sensorPlanes[0].grid.active;
+    active.assign(active.size(), false);
+    scene.points = {{2, 1.5, 0.75, 0, 0, 1}};
+    const SimulationResult result = Calculate(scene, RunOptions(folder.Path()));
+    ASSERT_EQ(result.zones.size(), 1u);
+    EXPECT_TRUE(result.zones[0].illuminance.empty());
+    EXPECT_EQ(result.pointIlluminance.size(), 1u);
+    ASSERT_EQ(result.log.size(), 6u);
+    EXPECT_EQ(result.log[2], "octree montado; calculando 1 ponto(s)");
+    EXPECT_EQ(result.log[3].substr(0, 23), "rtrace em 1 processo(s)");
+    EXPECT_FALSE(fs::exists(folder.Path() / "illuminance.txt"));
+}
+
 TEST(RunSimulation, InFourProcessesGivesTheLightOfOne) {
     const TemporaryFolder folder;
     const Scene scene = SmallRoom(0.2);
@@ -350,6 +366,21 @@ TEST(RunSimulation, DimsAndMaintains) {
     EXPECT_EQ(
         Calculate(OpenScene(luminaire), RunOptions(folder.Path())).pointDirectIlluminance.at(0),
         0.0);
+}
+
+TEST(RunSimulation, StretchesAPieceOfARunWithItsFlux) {
+    const TemporaryFolder folder;
+    SceneLuminaire luminaire = PlacedLuminaire(IsotropicPhotometry(), {0, 0, 3});
+    Scene scene = OpenScene(luminaire);
+    const double whole = Calculate(scene, RunOptions(folder.Path())).pointDirectIlluminance.at(0);
+    scene.luminaires[0].lengthScale = 0.5;
+    const double half = Calculate(scene, RunOptions(folder.Path())).pointDirectIlluminance.at(0);
+    EXPECT_NEAR(half, whole / 2.0, whole * 1e-5);
+
+    luminaire.x = 1.0; // the whole one beside the half: a source of its own
+    scene.luminaires.push_back(luminaire);
+    Calculate(scene, RunOptions(folder.Path()));
+    EXPECT_TRUE(fs::exists(folder.Path() / "lum2.ies"));
 }
 
 TEST(RunSimulation, StandsALuminaireWhereItsArgumentsSay) {

@@ -47,6 +47,25 @@ TEST(RadianceSelfTest, CatchesAnEngineThatLosesThreePercent) {
               "⚠  O Radiance calcula, mas o resultado do teste não confere.");
 }
 
+TEST(RadianceSelfTest, PassesUpToTwoPercentBothWays) {
+    struct Case {
+        std::string factor;
+        bool passed;
+    };
+    for (const Case& c :
+         {Case{"0.981", true}, {"0.979", false}, {"1.019", true}, {"1.021", false}}) {
+        SCOPED_TRACE(c.factor);
+        const TemporaryFolder folder;
+        const ProgramFolder programs(folder.Path() / "radiance");
+        programs.Replace("rtrace",
+                         "\"$REAL\" \"$@\" | awk '{f=" + c.factor + "; print $1*f, $2*f, $3*f}'");
+        const SelfTestResult test =
+            RadianceSelfTest(Found(programs.Path()), Text::WidePath(folder.Path() / "t"), {});
+        EXPECT_TRUE(test.ran) << test.message;
+        EXPECT_EQ(test.passed, c.passed) << test.largestDifference;
+    }
+}
+
 TEST(RadianceSelfTest, TellsWhyItCouldNotRun) {
     const TemporaryFolder folder;
     const ProgramFolder programs(folder.Path() / "radiance");
