@@ -10,6 +10,7 @@ SimulationResult RunSimulation(const Scene& scene, const SimulationOptions& opti
                                const CancelCallback& cancel, const LogCallback& log,
                                const ProgressCallback& progress) {
     RunContext run{scene, options, cancel, log, progress};
+    run.target.radianceBinFolder = options.radianceBinFolder;
     run.target.poll = [&run] { return Poll(run); };
     run.target.result = &run.result;
 

@@ -81,7 +81,6 @@ bool PrepareWorkFolder(RunContext& run) {
     if (run.target.workFolder.empty() || !MakeFolder(run.target.workFolder)) {
         return Fail(run, "nao foi possivel criar a pasta de trabalho do calculo");
     }
-    run.target.radianceBinFolder = AbsolutePath(run.options.radianceBinFolder);
     run.target.rayPath =
         RayPathOf(run.target.workFolder, AbsolutePath(run.options.radianceLibFolder));
     const LockOutcome outcome = LockFile(WorkFile(run, LockName), run.folderLock);
