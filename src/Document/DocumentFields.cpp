@@ -61,6 +61,22 @@ std::size_t EditDistance(std::string_view a, std::string_view b) {
     return row.back();
 }
 
+/// Lower case without accents: the keys have none, and the rightly spelt word is the likeliest
+/// slip.
+std::string FoldedKey(std::string_view key) {
+    // The letters of U+00E0 to U+00FF, and of U+00C0 to U+00DF alike.
+    constexpr std::string_view letters = "aaaaaaaceeeeiiiidnooooo/ouuuuypy";
+    std::string folded;
+    for (std::size_t i = 0; i < key.size(); ++i) {
+        if (key[i] == '\xC3' && i + 1 < key.size()) {
+            folded += letters[static_cast<unsigned char>(key[++i]) & 0x1FU];
+        } else {
+            folded += key[i];
+        }
+    }
+    return Text::ToLower(folded);
+}
+
 /// " (talvez \"altura\")" where a known key is only a slip away, else nothing.
 std::string Hint(std::string_view key, std::initializer_list<Field> fields) {
     constexpr std::size_t longest = 40; // no known key is near so long a text
@@ -70,7 +86,7 @@ std::string Hint(std::string_view key, std::initializer_list<Field> fields) {
         return "";
     }
     for (const Field& field : fields) {
-        const std::size_t distance = EditDistance(Text::ToLower(key), Text::ToLower(field.key));
+        const std::size_t distance = EditDistance(FoldedKey(key), FoldedKey(field.key));
         if (distance < best && distance < field.key.size()) {
             best = distance;
             nearest = field.key;

@@ -73,8 +73,9 @@ void DecodeHeader(IesFile& file) {
 void Derive(IesReport& report) {
     report.flux = Photometry::TotalFlux(report.file);
     report.peak = Photometry::PeakCandela(report.file);
-    report.halfAngle =
-        report.file.photometricType == TypeC ? Photometry::BeamHalfAngle(report.file) : -1.0;
+    report.halfAngle = report.file.photometricType == TypeC
+                           ? Photometry::FindBeamHalfAngle(report.file).value_or(-1.0)
+                           : -1.0;
     std::string warning;
     Photometry::WithKnownOpening(report.file, warning);
     if (!warning.empty()) {
@@ -116,12 +117,12 @@ std::string Row(const std::string& label, const std::string& value) {
 
 void AppendQuantities(const IesReport& report, std::vector<std::string>& lines) {
     const IesFile& file = report.file;
-    const bool typeC = file.photometricType == TypeC;
     lines.push_back(Row("Fluxo", report.flux == -1.0 ? "não calculado"
                                                      : FormatDecimal(report.flux, 1) + " lm"));
     lines.push_back(Row("Intensidade máxima", FormatDecimal(report.peak, 1) + " cd"));
-    lines.push_back(Row("Semiângulo do facho",
-                        typeC ? FormatDecimal(report.halfAngle, 1) + "°" : "não calculado"));
+    lines.push_back(Row("Semiângulo do facho", report.halfAngle < 0.0
+                                                   ? "não se aplica"
+                                                   : FormatDecimal(report.halfAngle, 1) + "°"));
     lines.push_back(Row("Abertura luminosa", OpeningText(file)));
     lines.push_back(Row("Potência", Shown(file.inputWatts) + " W"));
 }

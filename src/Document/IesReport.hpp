@@ -18,7 +18,7 @@ struct IesReport {
     Photometry::IesFile file;          ///< header texts in UTF-8 fit to be shown; only when `ok`
     double flux = -1.0;                ///< of the candela table [lm]; -1 when not of type C
     double peak = 0.0;                 ///< largest intensity [cd]
-    double halfAngle = -1.0;           ///< from the axis to half of it [deg]; -1 when not of type C
+    double halfAngle = -1.0; ///< from the axis to half of it [deg]; -1 where there is none
 };
 
 /// Reads the bytes of a photometric file and derives its quantities.

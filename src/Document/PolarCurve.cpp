@@ -221,6 +221,7 @@ void AppendKey(Drawing::Layer& layer, double y, const std::string& unit) {
 void AppendFigures(Drawing::Layer& layer, const Photometry::IesFile& file) {
     using Simulation::FormatDecimal;
     const double flux = Photometry::TotalFlux(file);
+    const std::optional<double> halfAngle = Photometry::FindBeamHalfAngle(file);
     struct Figure {
         const char* name;
         std::string value;
@@ -228,7 +229,8 @@ void AppendFigures(Drawing::Layer& layer, const Photometry::IesFile& file) {
     const Figure figures[] = {
         {"Fluxo luminoso", flux < 0.0 ? "—" : FormatDecimal(flux, 0) + " lm"},
         {"Intensidade máxima", FormatDecimal(Photometry::PeakCandela(file), 0) + " cd"},
-        {"Semiângulo do facho (50 %)", FormatDecimal(Photometry::BeamHalfAngle(file), 1) + "°"},
+        {"Semiângulo do facho (50 %)",
+         halfAngle ? FormatDecimal(*halfAngle, 1) + "°" : "não se aplica"},
     };
     double y = Edge + 8.8;
     layer.elements.emplace_back(

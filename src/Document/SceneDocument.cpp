@@ -136,7 +136,7 @@ bool ParseSceneDocument(std::string_view text, const IesLoader& loadIes, SceneDo
     }
     document.warnings = std::move(reading.library.warnings);
     if (document.luminaires.empty()) {
-        document.warnings.emplace_back("o documento não tem luminárias: todo valor será 0");
+        document.warnings.emplace_back("O documento não tem luminárias: todo valor será 0.");
     }
     return true;
 }

@@ -14,7 +14,7 @@ namespace Merivane::Photometry {
 namespace {
 
 constexpr double MetresInAFoot = 0.3048;
-constexpr double UnknownBeamHalfAngle = 45.0; // [deg]
+constexpr double UnknownBeamHalfAngle = 45.0; // [deg], where the light has no beam
 
 bool HasWholeTypeCTable(const IesFile& file) {
     const std::size_t verticals = file.verticalAngles.size();
@@ -83,10 +83,10 @@ double TotalFlux(const IesFile& file) {
     return flux * file.candelaMultiplier;
 }
 
-double BeamHalfAngle(const IesFile& file) {
+std::optional<double> FindBeamHalfAngle(const IesFile& file) {
     const double onAxis = MeanCandelaAtVertical(file, 0.0);
     if (!(onAxis > 0.0)) {
-        return UnknownBeamHalfAngle;
+        return std::nullopt;
     }
     const double level = onAxis / 2.0;
     double previous = onAxis;
@@ -98,7 +98,11 @@ double BeamHalfAngle(const IesFile& file) {
         }
         previous = mean;
     }
-    return UnknownBeamHalfAngle;
+    return std::nullopt;
+}
+
+double BeamHalfAngle(const IesFile& file) {
+    return FindBeamHalfAngle(file).value_or(UnknownBeamHalfAngle);
 }
 
 } // namespace Merivane::Photometry

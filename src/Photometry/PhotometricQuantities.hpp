@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include <optional>
+
 #include "Photometry/IesFile.hpp"
 
 namespace Merivane::Photometry {
@@ -30,6 +32,11 @@ double PeakCandela(const IesFile& file);
 /// -1 when the table can't be integrated: not of type C, without angles, or not one row of the
 /// right length for each horizontal angle.
 double TotalFlux(const IesFile& file);
+
+/// Angle from the axis at which the mean intensity over the planes has fallen to half of that on
+/// the axis [deg], up to 90. Nothing where there is no light on the axis, as with an indirect
+/// luminaire, or where it does not fall so far.
+std::optional<double> FindBeamHalfAngle(const IesFile& file);
 
 /// Angle from the axis [deg] at which the mean intensity of all planes first falls to half of that
 /// on the axis, interpolated linearly between whole degrees. 45 when there is no such angle up to

@@ -60,6 +60,18 @@ bool ReadPositive(std::string text, double& value) {
     return true;
 }
 
+/// Reads a scale as "50" or "1:50", from 1:5 to 1:5000: outside it no sheet of paper fits.
+bool JudgeScale(const std::string& text, double& scale, std::string& error) {
+    double read = 0.0;
+    const std::string number = text.starts_with("1:") ? text.substr(2) : text;
+    if (text.empty() || (ReadPositive(number, read) && read >= 5.0 && read <= 5000.0)) {
+        scale = read;
+        return true;
+    }
+    error = "--escala: \"" + text + "\" não é uma escala de 5 (1:5) a 5000 (1:5000)";
+    return false;
+}
+
 bool JudgePositive(const char* option, const std::string& text, double& value, std::string& error) {
     if (text.empty() || ReadPositive(text, value)) {
         return true;
@@ -97,14 +109,14 @@ CLI::App* AddSimulate(CLI::App& app, RawLine& line) {
     command->add_option("--escala", line.scale, "Escala das plantas: 50 para 1:50")->type_name("N");
     command->add_option("--paleta", line.palette, "Cores das faixas: espectro, calor ou cinza")
         ->type_name("NOME");
-    command->add_option("--valores", line.values, "Escreve os valores a cada N metros nas plantas")
+    command->add_option("--valores", line.values, "Escreve os valores a cada N metros, onde cabem")
         ->type_name("N");
     command->add_flag("--repetivel", arguments.repeatable,
-                      "Um só processo e sorteio fixo: os mesmos bytes a cada vez");
+                      "Um só processo e sorteio fixo: os mesmos valores e plantas a cada vez");
     command->add_flag("--silencioso", arguments.silent, "Só escreve os erros");
     command->add_flag("--json", arguments.json, "Escreve o resultado em JSON na saída padrão");
     line.judgements.emplace_back([&line](std::string& error) {
-        return JudgePositive("--escala", line.scale, line.simulate.scale, error) &&
+        return JudgeScale(line.scale, line.simulate.scale, error) &&
                JudgePositive("--valores", line.values, line.simulate.valueSpacing, error) &&
                JudgePalette(line.palette, line.simulate.colorScale, error);
     });
@@ -184,7 +196,8 @@ CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
     CLI::App app("Vantoro: estudos de iluminação", "vantoro");
     app.formatter(PortugueseHelp());
     Prepare(app);
-    app.set_version_flag("--versao", std::string("vantoro ") + Version, "Mostra a versão");
+    app.set_version_flag("--versao,--version", std::string("vantoro ") + Version,
+                         "Mostra a versão");
     app.require_subcommand(1);
 
     RawLine line;

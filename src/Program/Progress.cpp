@@ -1,5 +1,6 @@
 #include "Program/Progress.hpp"
 
+#include <cmath>
 #include <cstdio>
 
 #include "Program/Terminal.hpp"
@@ -33,7 +34,7 @@ void TellProgress(ProgressState& state, Simulation::SimulationStage stage, doubl
         return;
     }
     const int number = static_cast<int>(stage);
-    const int percent = static_cast<int>(fraction * 100.0 + 0.5);
+    const int percent = static_cast<int>(std::lround(fraction * 100.0));
     const bool newStage = number != state.stage;
     if (!newStage && percent == state.percent) {
         return;

@@ -54,10 +54,13 @@ bool RefuseWithFiles(const SimulateRun& run, const std::string& sentence) {
 bool ReadInput(SimulateRun& run) {
     std::string error;
     const std::wstring scenePath = Text::Widen(run.arguments.sceneFile);
-    return (Document::ReadSceneDocument(scenePath, run.document, error) &&
-            Document::BuildScene(run.document, run.built, error) &&
-            PrepareOutputFolder(Text::Widen(run.arguments.outputFolder), error)) ||
-           Refuse(error);
+    if (!Document::ReadSceneDocument(scenePath, run.document, error)) {
+        return Refuse(error);
+    }
+    if (!Document::BuildScene(run.document, run.built, error)) {
+        return Refuse("\"" + run.arguments.sceneFile + "\": " + error);
+    }
+    return PrepareOutputFolder(Text::Widen(run.arguments.outputFolder), error) || Refuse(error);
 }
 
 std::string JoinNames(const std::vector<std::string>& names) {
@@ -90,7 +93,7 @@ bool ProveRadiance(SimulateRun& run) {
         return false;
     }
     if (!test.ran) {
-        return RefuseWithFiles(run, "o Radiance não conseguiu calcular: " + test.message);
+        return RefuseWithFiles(run, "o teste do Radiance não pôde ser feito: " + test.message);
     }
     if (!test.passed) {
         return RefuseWithFiles(

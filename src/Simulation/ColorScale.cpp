@@ -15,7 +15,7 @@ struct Palette {
 };
 
 const Palette& FindPalette(std::uint32_t scale) {
-    static const std::array<Palette, ColorScaleCount> palettes = {{
+    static const std::array<Palette, ColorScaleCount> Palettes = {{
         {"Espectro (azul a vermelho)",
          {{0.12, 0.10, 0.50},
           {0.15, 0.40, 0.95},
@@ -33,7 +33,7 @@ const Palette& FindPalette(std::uint32_t scale) {
           {1.00, 0.98, 0.80}}},
         {"Tons de cinza", {{0.30, 0.30, 0.30}, {0.95, 0.95, 0.95}}},
     }};
-    return palettes[scale < ColorScaleCount ? scale : 0];
+    return Palettes[scale < ColorScaleCount ? scale : 0];
 }
 
 double Mix(double from, double to, double weight) {

@@ -32,7 +32,7 @@ TEST(IesReport, DerivesTheQuantitiesOfAFile) {
     EXPECT_EQ(report.fileName, "a.ies");
     EXPECT_NEAR(report.flux, 4.0 * std::numbers::pi, 1e-9);
     EXPECT_EQ(report.peak, 1.0);
-    EXPECT_EQ(report.halfAngle, 45.0);
+    EXPECT_EQ(report.halfAngle, -1.0); // it never falls to half
     EXPECT_EQ(FindKeyword(report.file, "MANUFAC"), "São");
     EXPECT_TRUE(report.warnings.empty());
 }
@@ -71,7 +71,7 @@ TEST(IesReport, WritesLinesForAPerson) {
                   "a.ies",
                   "  Fluxo                 12,6 lm",
                   "  Intensidade máxima    1,0 cd",
-                  "  Semiângulo do facho   45,0°",
+                  "  Semiângulo do facho   não se aplica",
                   "  Abertura luminosa     retângulo, 0,200 x 0,100 m",
                   "  Potência              25 W",
                   "  Formato               LM-63-2002",

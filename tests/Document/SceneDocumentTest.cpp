@@ -41,7 +41,7 @@ TEST(SceneDocument, ASmallDocumentTakesTheDefaults) {
 
 TEST(SceneDocument, TellsThatAllWillBeDarkWithoutLuminaires) {
     EXPECT_EQ(ReadScene(SceneText("")).warnings,
-              std::vector<std::string>{"o documento não tem luminárias: todo valor será 0"});
+              std::vector<std::string>{"O documento não tem luminárias: todo valor será 0."});
 }
 
 TEST(SceneDocument, RefusesWhatIsNoSceneDocument) {
@@ -88,6 +88,8 @@ TEST(SceneDocument, NamesThePlaceOfAnUnknownKeyAndTheNearestKnownOne) {
         {R"("autor": "A")", "documento: chave desconhecida \"autor\""},
         {R"("": 1)", "documento: chave desconhecida \"\""},
         {R"("motor": {"raio": 64})", "motor: chave desconhecida \"raio\" (talvez \"raios\")"},
+        {R"("luminarias": [{"rotação": 1}])",
+         "luminarias[0]: chave desconhecida \"rotação\" (talvez \"rotacao\")"},
         {R"("luminarias": [{"rotaçao": 1}])",
          "luminarias[0]: chave desconhecida \"rotaçao\" (talvez \"rotacao\")"},
         {R"("luminarias": [{"repeticao": {"z": 1}, "ies": "a.ies", "posicao": [0, 0, 0]}])",

@@ -202,6 +202,15 @@ TEST(BeamHalfAngle, TakesTheMeanOfThePlanes) {
     EXPECT_NEAR(BeamHalfAngle(file), 30.0, 1e-9);
 }
 
+TEST(FindBeamHalfAngle, IsThereOnlyWhereTheLightHasABeam) {
+    EXPECT_EQ(FindBeamHalfAngle(OnePlane({0, 90}, {0, 100})), std::nullopt);  // none on the axis
+    EXPECT_EQ(FindBeamHalfAngle(OnePlane({0, 90}, {100, 51})), std::nullopt); // never half of it
+    const IesFile falling = OnePlane({0, 90}, {100, 0});
+    ASSERT_TRUE(FindBeamHalfAngle(falling).has_value());
+    EXPECT_NEAR(*FindBeamHalfAngle(falling), 45.0, 1e-9); // a real 45, not the stand-in
+    EXPECT_EQ(*FindBeamHalfAngle(falling), BeamHalfAngle(falling));
+}
+
 TEST(BeamHalfAngle, OfALambertSourceIsSixty) {
     const auto lambert = [](double v, double) { return std::cos(v * RadiansInADegree); };
     EXPECT_NEAR(BeamHalfAngle(MakeTable(Steps(0, 90, 1), {0}, lambert)), 60.0, 1e-9);

@@ -318,9 +318,10 @@ TEST(Simulate, RefusesAnEngineThatDoesNotCalculate) {
     const SampleRun run;
     const ProgramEnd end = RunWithTool(run, "oconv", "echo 'oconv: fatal - nada' >&2\nexit 1\n");
     EXPECT_EQ(end.status, 1);
-    EXPECT_EQ(end.error, "vantoro: o Radiance não conseguiu calcular: montagem da cena (oconv): "
-                         "oconv terminou com erro 1: oconv: fatal - nada" +
-                             run.FilesSentence());
+    EXPECT_EQ(end.error,
+              "vantoro: o teste do Radiance não pôde ser feito: montagem da cena (oconv): "
+              "oconv terminou com erro 1: oconv: fatal - nada" +
+                  run.FilesSentence());
     EXPECT_EQ(NamesIn(run.temporary / "vantoro-1"), std::set<std::string>{"teste_radiance"});
     ExpectNothingWritten(run);
 }
