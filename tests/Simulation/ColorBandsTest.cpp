@@ -118,6 +118,42 @@ TEST(BuildBands, AHoleGoesToTheSmallestRingThatContainsIt) {
     EXPECT_NEAR(AreaOf(bands), 36.0, 1e-12);
 }
 
+TEST(BuildBands, AHoleIsLookedForAMillionthOfTheShorterStepBesideItsFirstEdge) {
+    // The band from 5 to 10 is a hair round a dark square: a hole in a hair that is thinner than
+    // the distance at which its polygon is looked for has none.
+    const struct {
+        double hair; ///< how thick it is beside the hole's first edge, in steps along x
+        double stepX;
+        double stepY;
+        std::size_t holes;
+    } cases[] = {
+        {0.9e-6, 1, 1, 0},  {1.1e-6, 1, 1, 1},  {0.9e-6, 10, 10, 0}, {1.1e-6, 10, 10, 1},
+        {1.1e-6, 1, 10, 1}, {0.9e-6, 1, 10, 0}, {0.11e-6, 10, 1, 1}, {0.09e-6, 10, 1, 0},
+    };
+    for (const auto& c : cases) {
+        const double b = 7.5 / c.hair;
+        SmallField f{
+            {b, b, b, b, b}, {b, 0, 0, 0, b}, {b, 0, 0, 0, b}, {b, 0, 0, 0, b}, {b, b, b, b, b}};
+        f.grid.stepX = c.stepX;
+        f.grid.stepY = c.stepY;
+        const auto bands = BuildBands(f.Field(), {5, 10});
+        ASSERT_EQ(bands.size(), 3U);
+        ASSERT_EQ(bands[1].polygons.size(), 1U);
+        EXPECT_EQ(bands[1].polygons[0].holes.size(), c.holes)
+            << c.hair << " " << c.stepX << " x " << c.stepY;
+    }
+}
+
+TEST(BuildBands, ALineOfNodesAtALevelIsNoPolygonAndNoHole) {
+    const SmallField f{{4, 4, 4, 4, 4}, {4, 5, 5, 5, 4}, {4, 4, 4, 4, 4}};
+    const auto bands = BuildBands(f.Field(), {5});
+    ASSERT_EQ(bands.size(), 1U);
+    EXPECT_EQ(bands[0].index, 0U);
+    ASSERT_EQ(bands[0].polygons.size(), 1U);
+    EXPECT_EQ(bands[0].polygons[0].outer, (std::vector<Point2D>{{0, 0}, {4, 0}, {4, 2}, {0, 2}}));
+    EXPECT_TRUE(bands[0].polygons[0].holes.empty());
+}
+
 TEST(BuildBands, ANodeWithoutValueTakesItsFourCellsAway) {
     const SmallField f{
         {5, 5, 5, 5, 5}, {5, 5, 5, 5, 5}, {5, 5, NoValue, 5, 5}, {5, 5, 5, 5, 5}, {5, 5, 5, 5, 5}};

@@ -80,6 +80,13 @@ TEST(FindOwners, OfEqualRingsTheFirst) {
     EXPECT_EQ(FindOwners(points, Measured(rings), 0.5), std::vector<std::size_t>{0});
 }
 
+TEST(FindOwners, ALeftOrLowerEdgeBelongsToItsRingARightOrUpperOneDoesNot) {
+    const std::vector<Ring> rings{Square(0, 0, 4)};
+    const std::vector<Point2D> points{{0, 2}, {2, 0}, {0, 0}, {4, 2}, {2, 4}, {4, 0}, {0, 4}};
+    EXPECT_EQ(FindOwners(points, Measured(rings), 0.5),
+              (std::vector<std::size_t>{0, 0, 0, NoOwner, NoOwner, NoOwner, NoOwner}));
+}
+
 TEST(FindOwners, NoRingsNoOwner) {
     const std::vector<Point2D> points{{2, 2}};
     EXPECT_EQ(FindOwners(points, {}, 0.5), std::vector<std::size_t>{NoOwner});

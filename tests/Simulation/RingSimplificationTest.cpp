@@ -38,6 +38,28 @@ TEST(SimplifyRing, TheSineOfAStraightTurnIsAtMostAThousandMillionth) {
     EXPECT_EQ(SimplifyRing({{0, 0}, {1, 0}, {2, 1.1e-9}, {1, 2}}).size(), 4U);
 }
 
+TEST(SimplifyRing, TheSineOfATurnDoesNotDependOnTheLengthOfTheEdges) {
+    EXPECT_EQ(SimplifyRing({{0, 0}, {10, 0}, {20, 0.9e-8}, {10, 20}}).size(), 3U);
+    EXPECT_EQ(SimplifyRing({{0, 0}, {10, 0}, {20, 1.1e-8}, {10, 20}}).size(), 4U);
+    EXPECT_EQ(SimplifyRing({{0, 0}, {0.01, 0}, {0.02, 0.9e-11}, {0, 20}}).size(), 3U);
+    EXPECT_EQ(SimplifyRing({{0, 0}, {0.01, 0}, {0.02, 1.1e-11}, {0, 20}}).size(), 4U);
+}
+
+TEST(SimplifyRing, AnEdgeOfAThousandMillionthOfAMillimetreHasNoDirection) {
+    // Of the two vertices that stand as good as in one place, the first stays when the edge
+    // between them is too short to tell that it goes straight on.
+    const struct {
+        double distance;
+        double left;
+    } cases[] = {{0.9e-12, 0.0}, {1e-12, 0.0}, {1.1e-12, 1.1e-12}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(SimplifyRing({{0, 0}, {c.distance, 0}, {2, 1}, {-1, 1}, {-1, 0}}),
+                  (c.left == 0.0 ? Ring{{0, 0}, {2, 1}, {-1, 1}, {-1, 0}}
+                                 : Ring{{c.left, 0}, {2, 1}, {-1, 1}, {-1, 0}}))
+            << c.distance;
+    }
+}
+
 TEST(SimplifyRing, ASpikeThatFoldsBackStays) {
     const Ring ring{{0, 0}, {3, 0}, {2, 0}, {2, 2}};
     EXPECT_EQ(SimplifyRing(ring), ring);
