@@ -51,8 +51,8 @@ const Folders CoreFolders = {"Text",           "Photometry", "Simulation", "Radi
 
 /// The layer of a path under src: its folder, `Simulation/Run` and `AddOn/RunLog` being their own.
 std::string LayerOf(const std::string& path) {
-    for (const std::string own : {"Simulation/Run", "AddOn/RunLog"}) {
-        if (path.rfind(own + "/", 0) == 0) {
+    for (const char* own : {"Simulation/Run", "AddOn/RunLog"}) {
+        if (path.starts_with(std::string(own) + "/")) {
             return own;
         }
     }
@@ -71,7 +71,7 @@ struct Include {
 };
 
 std::vector<Include> ReadIncludes() {
-    static const std::regex pattern(R"(^\s*#\s*include\s*(["<])([^">]+)[">])");
+    const std::regex pattern(R"(^\s*#\s*include\s*(["<])([^">]+)[">])");
     std::vector<Include> includes;
     const std::filesystem::path root = SourceFolder() / "src";
     for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
