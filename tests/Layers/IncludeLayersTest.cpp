@@ -17,10 +17,11 @@ namespace {
 
 using Folders = std::set<std::string>;
 
-const Folders Everything = {"Text",           "Drawing",  "Photometry", "Simulation",
-                            "Simulation/Run", "Radiance", "Document",   "Gdl",
-                            "Catalog",        "Tools",    "Host",       "Archicad",
-                            "AddOn/RunLog",   "AddOn",    "Workbench",  "Program"};
+const Folders Everything = {
+    "Text",     "Drawing",   "Photometry", "Simulation",       "Simulation/Run",
+    "Radiance", "Document",  "Gdl",        "Simulation/Glare", "Simulation/Verification",
+    "Catalog",  "Tools",     "Host",       "Archicad",         "AddOn/RunLog",
+    "AddOn",    "Workbench", "Program"};
 
 /// What each folder may include beside itself.
 const std::map<std::string, Folders> Layers = {
@@ -28,30 +29,35 @@ const std::map<std::string, Folders> Layers = {
     {"Drawing", {"Text"}},
     {"Photometry", {"Text"}},
     {"Simulation", {"Text", "Photometry"}},
+    {"Simulation/Glare", {"Text", "Photometry", "Simulation"}},
+    {"Simulation/Verification", {"Text", "Photometry", "Simulation"}},
     {"Radiance", {"Text", "Photometry", "Simulation"}},
     {"Simulation/Run", {"Text", "Photometry", "Simulation", "Radiance"}},
     {"Catalog", {"Text", "Photometry"}},
     {"Document",
-     {"Text", "Drawing", "Photometry", "Simulation", "Radiance", "Simulation/Run", "Catalog"}},
+     {"Text", "Drawing", "Photometry", "Simulation", "Simulation/Glare", "Simulation/Verification",
+      "Radiance", "Simulation/Run", "Catalog"}},
     {"Gdl", {"Text", "Photometry", "Simulation"}},
     {"Tools", {"Text", "Photometry", "Simulation"}},
     {"Host", {}},
     {"AddOn/RunLog", {"Host", "Text"}},
     {"Archicad",
-     {"Text", "Photometry", "Simulation", "Radiance", "Simulation/Run", "Catalog", "Gdl", "Tools",
-      "Host", "AddOn/RunLog"}},
+     {"Text", "Photometry", "Simulation", "Simulation/Glare", "Simulation/Verification", "Radiance",
+      "Simulation/Run", "Catalog", "Gdl", "Tools", "Host", "AddOn/RunLog"}},
     {"Workbench", {"Host", "Text", "Drawing", "Catalog", "Photometry"}},
     {"Program", Everything},
 };
 
 /// Folders whose sources use the standard library alone, but for the halves of an operating
 /// system.
-const Folders CoreFolders = {"Text",           "Photometry", "Simulation", "Radiance",
-                             "Simulation/Run", "Catalog",    "Gdl",        "Tools"};
+const Folders CoreFolders = {
+    "Text",    "Photometry", "Simulation", "Radiance",         "Simulation/Run",
+    "Catalog", "Gdl",        "Tools",      "Simulation/Glare", "Simulation/Verification"};
 
 /// The layer of a path under src: its folder, `Simulation/Run` and `AddOn/RunLog` being their own.
 std::string LayerOf(const std::string& path) {
-    for (const char* own : {"Simulation/Run", "AddOn/RunLog"}) {
+    for (const char* own :
+         {"Simulation/Run", "Simulation/Glare", "Simulation/Verification", "AddOn/RunLog"}) {
         if (path.starts_with(std::string(own) + "/")) {
             return own;
         }

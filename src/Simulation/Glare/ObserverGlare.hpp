@@ -1,0 +1,27 @@
+#pragma once
+
+#include <vector>
+
+#include "Simulation/Glare/GlareRecords.hpp"
+#include "Simulation/PlacedLuminaire.hpp"
+
+namespace Merivane::Simulation {
+
+/// Guth's position index in the form of CIE 117, capped at 16. `sigma` [deg] is the angle of the
+/// source from the line of sight, `tau` [deg] its turn about the line of sight from the vertical.
+double PositionIndex(double tau, double sigma);
+
+/// UGR at one observer. `verticalIlluminance` [lux] is that on the eye, at right angles to the line
+/// of sight, without the sources' own direct light; background luminance is it over pi.
+///
+/// `terms`, when given, receives a record for each luminaire, in order, left out or not. Their sum
+/// S and the background Lb give the value again: UGR = 8 log10(0.25 S / Lb).
+GlareResult ObserverGlare(const UgrObserver& observer,
+                          const std::vector<PlacedLuminaire>& luminaires,
+                          double verticalIlluminance, const GlareOptions& options,
+                          std::vector<GlareTerm>* terms = nullptr);
+
+/// "< 10" below 10, else one decimal with a decimal comma; compared as printed.
+std::string FormatUgr(double value);
+
+} // namespace Merivane::Simulation

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+#include "Simulation/PlacedLuminaire.hpp"
+#include "Simulation/Verification/ZoneRequirement.hpp"
+
+namespace Merivane::Simulation {
+
+/// The class of screens of a Zone: what is stored, or for automatic what the words of the
+/// activity and its note tell (0 none, 1 classes I and II).
+std::int32_t ResolveScreens(const ZoneRequirement& requirement);
+
+/// Highest mean luminance of luminaires that may mirror in the screens [cd/m2]: 1000, 200, or 0 for
+/// no limit.
+double ScreenLuminanceLimit(std::int32_t screens);
+
+/// Largest luminance of the luminaire as placed, at full output, over 24 azimuths at 65, 75 and 85
+/// degrees from the downward vertical of the room [cd/m2]; 0 when no luminous area shows. `gamma`
+/// and `c` [deg] tell where, `c` counted from its own C0; both 0 without luminance.
+double MaximumScreenLuminance(const PlacedLuminaire& luminaire, double& gamma, double& c);
+
+} // namespace Merivane::Simulation

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Simulation/Verification/TaskTable.hpp"
+
+namespace Merivane::Simulation {
+
+/// The id that an old word key ("escritorio") stands for; any other text unchanged. Projects saved
+/// by an earlier release hold word keys.
+std::string MigrateTaskId(std::string_view id);
+
+/// The row of an id or an old word key; null when there is none. Compares bytes.
+const TaskRow* FindTask(std::string_view id);
+
+/// UTF-8 without the accents of the Latin-1 letters, their capitals and those of ASCII lowered:
+/// one character for each letter. Other characters pass unchanged.
+std::string FoldAccents(std::string_view text);
+
+/// The id of the activity that the name of a Zone speaks of, by the first keyword that occurs in
+/// it; empty without one.
+std::string SuggestTaskId(std::string_view name);
+
+/// The rows in which every word of `text` occurs, in id, section, activity or note, without
+/// regard to accents and case; all rows for a text without words.
+std::vector<const TaskRow*> SearchTasks(std::string_view text);
+
+} // namespace Merivane::Simulation
