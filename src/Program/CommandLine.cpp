@@ -1,8 +1,6 @@
 #include "Program/CommandLine.hpp"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -11,8 +9,8 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include "Program/ArgumentValues.hpp"
 #include "Program/Version.hpp"
-#include "Text/Number.hpp"
 
 namespace Merivane::Program {
 
@@ -26,9 +24,12 @@ using Judgement = std::function<bool(std::string& error)>;
 struct RawLine {
     SimulateArguments simulate;
     IesArguments ies;
+    UgrArguments ugr;
+    TasksArguments tasks;
     std::string scale;
     std::string palette;
     std::string values;
+    std::string height;
     std::vector<Judgement> judgements;
 };
 
@@ -47,48 +48,6 @@ void Prepare(CLI::App& app) {
     app.set_help_flag("-a,--ajuda,--help", "Mostra esta ajuda");
     app.get_help_ptr()->group("Opções");
     app.option_defaults()->group("Opções");
-}
-
-/// Reads a positive number with a decimal point or comma.
-bool ReadPositive(std::string text, double& value) {
-    std::replace(text.begin(), text.end(), ',', '.');
-    double read = 0.0;
-    if (!Text::ReadEntireNumber(text, read) || !std::isfinite(read) || read <= 0.0) {
-        return false;
-    }
-    value = read;
-    return true;
-}
-
-/// Reads a scale as "50" or "1:50", from 1:5 to 1:5000: outside it no sheet of paper fits.
-bool JudgeScale(const std::string& text, double& scale, std::string& error) {
-    double read = 0.0;
-    const std::string number = text.starts_with("1:") ? text.substr(2) : text;
-    if (text.empty() || (ReadPositive(number, read) && read >= 5.0 && read <= 5000.0)) {
-        scale = read;
-        return true;
-    }
-    error = "--escala: \"" + text + "\" não é uma escala de 5 (1:5) a 5000 (1:5000)";
-    return false;
-}
-
-bool JudgePositive(const char* option, const std::string& text, double& value, std::string& error) {
-    if (text.empty() || ReadPositive(text, value)) {
-        return true;
-    }
-    error = std::string(option) + ": \"" + text + "\" não é um número maior que zero";
-    return false;
-}
-
-bool JudgePalette(const std::string& text, std::uint32_t& colorScale, std::string& error) {
-    constexpr std::array<std::string_view, 3> names = {"espectro", "calor", "cinza"};
-    const auto found = std::find(names.begin(), names.end(), text);
-    if (!text.empty() && found == names.end()) {
-        error = "--paleta: \"" + text + "\" não existe (use espectro, calor ou cinza)";
-        return false;
-    }
-    colorScale = text.empty() ? 0U : static_cast<std::uint32_t>(found - names.begin());
-    return true;
 }
 
 CLI::App* AddSimulate(CLI::App& app, RawLine& line) {
@@ -111,6 +70,10 @@ CLI::App* AddSimulate(CLI::App& app, RawLine& line) {
         ->type_name("NOME");
     command->add_option("--valores", line.values, "Escreve os valores a cada N metros, onde cabem")
         ->type_name("N");
+    command->add_flag("--verificar", arguments.verify,
+                      "Termina com o estado 3 se uma Zona não atende a um requisito da norma");
+    command->add_flag("--explicar", arguments.explain,
+                      "Mostra o ofuscamento de cada observador, luminária por luminária");
     command->add_flag("--repetivel", arguments.repeatable,
                       "Um só processo e sorteio fixo: os mesmos valores e plantas a cada vez");
     command->add_flag("--silencioso", arguments.silent, "Só escreve os erros");
@@ -134,6 +97,40 @@ CLI::App* AddIes(CLI::App& app, RawLine& line) {
     command->add_option("--saida", line.ies.outputFolder, "Pasta das curvas (a atual)")
         ->type_name("PASTA");
     command->add_flag("--json", line.ies.json, "Escreve em JSON na saída padrão");
+    return command;
+}
+
+CLI::App* AddUgr(CLI::App& app, RawLine& line) {
+    CLI::App* command =
+        app.add_subcommand("ugr", "Calcula a tabela UGR (CIE 117) de uma luminária");
+    Prepare(*command);
+    UgrArguments& arguments = line.ugr;
+    command->add_option("ARQUIVO", arguments.file, "Arquivo IES (LM-63)")
+        ->required()
+        ->type_name("");
+    command
+        ->add_option("--altura", line.height,
+                     "Metros do olho ao centro fotométrico, H (2,0 se não for dada)")
+        ->type_name("H");
+    command
+        ->add_option("--saida", arguments.outputFolder,
+                     "Grava nesta pasta a tabela em CSV e a folha em PDF e PNG")
+        ->type_name("PASTA");
+    command->add_flag("--explicar", arguments.explain,
+                      "Mostra a sala de referência luminária por luminária");
+    command->add_flag("--json", arguments.json, "Escreve em JSON na saída padrão");
+    line.judgements.emplace_back([&line](std::string& error) {
+        return JudgeRange("--altura", line.height, 0.3, 100.0, line.ugr.height, error);
+    });
+    return command;
+}
+
+CLI::App* AddTasks(CLI::App& app, RawLine& line) {
+    CLI::App* command = app.add_subcommand("atividades", "Mostra a tabela de atividades da norma");
+    Prepare(*command);
+    command->add_option("TEXTO", line.tasks.text, "Palavras procuradas, sem acentos ou com eles")
+        ->type_name("");
+    command->add_flag("--json", line.tasks.json, "Escreve em JSON na saída padrão");
     return command;
 }
 
@@ -203,6 +200,8 @@ CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
     RawLine line;
     const CLI::App* simulate = AddSimulate(app, line);
     const CLI::App* ies = AddIes(app, line);
+    const CLI::App* ugr = AddUgr(app, line);
+    const CLI::App* tasks = AddTasks(app, line);
     CLI::App* check = app.add_subcommand("verificar-radiance",
                                          "Verifica a instalação do Radiance com um teste exato");
     Prepare(*check);
@@ -238,6 +237,10 @@ CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
         result.request = line.simulate;
     } else if (ies->parsed()) {
         result.request = line.ies;
+    } else if (ugr->parsed()) {
+        result.request = line.ugr;
+    } else if (tasks->parsed()) {
+        result.request = line.tasks;
     } else {
         result.request = CheckRadianceArguments{};
     }

@@ -11,6 +11,7 @@ namespace Merivane::Program {
 inline constexpr int StatusDone = 0;
 inline constexpr int StatusFailed = 1;
 inline constexpr int StatusWrongUse = 2;
+inline constexpr int StatusNotMet = 3; ///< done, and a requirement is not met; only where asked
 inline constexpr int StatusCancelled = 130;
 
 /// `vantoro simular`: a scene document to values and pictures.
@@ -21,6 +22,8 @@ struct SimulateArguments {
     double scale = 0.0;     ///< scale denominator of the plans; 0 = chosen so that they fit
     std::uint32_t colorScale = 0;
     double valueSpacing = 0.0; ///< distance of written values [m]; 0 = none
+    bool verify = false;       ///< exit status 3 when a required row fails
+    bool explain = false;      ///< tell each observer's glare luminaire by luminaire
     bool repeatable = false;
     bool silent = false;
     bool json = false;
@@ -34,12 +37,27 @@ struct IesArguments {
     bool json = false;
 };
 
+/// `vantoro ugr`: the glare table of one luminaire model.
+struct UgrArguments {
+    std::string file;
+    double height = 2.0;      ///< H, from the eye to the photometric centre [m]
+    std::string outputFolder; ///< of table and sheet; empty = none are written
+    bool explain = false;
+    bool json = false;
+};
+
+/// `vantoro atividades`: the table of activities, searched.
+struct TasksArguments {
+    std::string text; ///< empty = the whole table
+    bool json = false;
+};
+
 /// `vantoro verificar-radiance`: the installation check.
 struct CheckRadianceArguments {};
 
 /// What was asked for on the command line; the first alternative when nothing is left to do.
-using Request =
-    std::variant<std::monostate, SimulateArguments, IesArguments, CheckRadianceArguments>;
+using Request = std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments,
+                             TasksArguments, CheckRadianceArguments>;
 
 /// How reading the command line ended.
 struct CommandLineResult {

@@ -8,6 +8,8 @@ namespace Merivane::Program {
 /// status of the program.
 int SimulateCommand(const SimulateArguments& arguments);
 int IesCommand(const IesArguments& arguments);
+int UgrCommand(const UgrArguments& arguments);
+int TasksCommand(const TasksArguments& arguments);
 int CheckRadianceCommand(const CheckRadianceArguments& arguments);
 
 } // namespace Merivane::Program

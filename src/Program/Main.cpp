@@ -21,6 +21,8 @@ struct RunRequest {
     int operator()(std::monostate /*nothing*/) const { return status; }
     int operator()(const SimulateArguments& arguments) const { return SimulateCommand(arguments); }
     int operator()(const IesArguments& arguments) const { return IesCommand(arguments); }
+    int operator()(const UgrArguments& arguments) const { return UgrCommand(arguments); }
+    int operator()(const TasksArguments& arguments) const { return TasksCommand(arguments); }
     int operator()(const CheckRadianceArguments& arguments) const {
         return CheckRadianceCommand(arguments);
     }

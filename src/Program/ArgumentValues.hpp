@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// Values of the command line that are no free text. Each judge takes an empty text for "not
+/// given", leaves the target as it is then, and otherwise reads it; it returns false with one
+/// Portuguese sentence that names the option.
+namespace Merivane::Program {
+
+/// A scale as "50" or "1:50", from 1:5 to 1:5000: outside it no sheet of paper fits.
+bool JudgeScale(const std::string& text, double& scale, std::string& error);
+
+/// A number above 0, with a decimal point or comma.
+bool JudgePositive(const char* option, const std::string& text, double& value, std::string& error);
+
+/// A number from `lowest` to `highest`, both included and above 0.
+bool JudgeRange(const char* option, const std::string& text, double lowest, double highest,
+                double& value, std::string& error);
+
+/// The name of a palette as its number, see `BandColor`.
+bool JudgePalette(const std::string& text, std::uint32_t& colorScale, std::string& error);
+
+} // namespace Merivane::Program
