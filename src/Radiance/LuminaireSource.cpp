@@ -8,6 +8,7 @@
 
 #include "Photometry/PhotometricQuantities.hpp"
 #include "Radiance/RadianceNumber.hpp"
+#include "Simulation/LengthScale.hpp"
 
 namespace Merivane::Radiance {
 
@@ -45,14 +46,9 @@ void AppendArray(Arguments& arguments, std::int32_t count, const std::string& st
 
 Photometry::IesFile ScaledPhotometry(const Simulation::SceneLuminaire& luminaire) {
     Photometry::IesFile scaled = luminaire.photometry;
-    if (std::abs(luminaire.lengthScale - 1.0) < 1e-12) {
-        return scaled;
-    }
-    scaled.candelaMultiplier *= luminaire.lengthScale;
-    if (scaled.width >= 0.0 && scaled.length >= 0.0) {
-        double& longerSide = scaled.width > scaled.length ? scaled.width : scaled.length;
-        longerSide *= luminaire.lengthScale;
-    }
+    const double scale = Simulation::AppliedLengthScale(luminaire);
+    scaled.candelaMultiplier *= scale;
+    Simulation::ScaleLongerSide(scaled.width, scaled.length, scale);
     return scaled;
 }
 

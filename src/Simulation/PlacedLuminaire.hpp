@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 #include "Photometry/LuminaireRotation.hpp"
@@ -23,9 +24,14 @@ struct PlacedLuminaire {
     double outputFactor = 1.0; ///< on the file's candela: dimming times length scale
 };
 
+/// Tells of a photometric centre whether the light source there is wanted.
+using PlaceFilter = std::function<bool(const Point3D&)>;
+
 /// Every light source of `luminaires`, in their order; copies of an array along x, then y. Steps of
-/// an array run along the project's axes. `luminaires` must outlive the result.
-std::vector<PlacedLuminaire> PlaceLuminaires(const std::vector<SceneLuminaire>& luminaires);
+/// an array run along the project's axes. With `keep` only those whose place passes, so that the
+/// rest of a large array costs no memory. `luminaires` must outlive the result.
+std::vector<PlacedLuminaire> PlaceLuminaires(const std::vector<SceneLuminaire>& luminaires,
+                                             const PlaceFilter& keep = nullptr);
 
 /// Intensity of the light source towards `point` [cd]: the file's candela in that direction, its
 /// multiplier counted once, times the output factor; maintenance is left out, the flux is the
