@@ -47,8 +47,9 @@ inline constexpr std::array<ReflectanceSet, 5> ReflectanceSets = {
     {{0.7, 0.5, 0.2}, {0.7, 0.3, 0.2}, {0.5, 0.5, 0.2}, {0.5, 0.3, 0.2}, {0.3, 0.3, 0.2}}};
 
 /// A standard room ready to be evaluated. The scene holds floor, ceiling and walls and one
-/// luminaire whose array makes the grid: it hangs untilted at full output, C0 along x (along y
-/// when crosswise), photometric centre in the plane of the ceiling, whatever its contract says.
+/// luminaire whose array makes the grid: it hangs untilted and unmirrored at full output, C0 along
+/// x (along y when crosswise), photometric centre in the plane of the ceiling, whatever its
+/// contract says.
 struct StandardRoom {
     Scene scene;
     std::array<UgrObserver, 4> observers; ///< mid-wall: y = 0, y = Y, x = 0, x = X
