@@ -23,8 +23,9 @@ std::string FoldAccents(std::string_view text);
 /// it; empty without one.
 std::string SuggestTaskId(std::string_view name);
 
-/// The rows in which every word of `text` occurs, in id, section, activity or note, without
-/// regard to accents and case; all rows for a text without words.
+/// The rows that every word of `text` speaks of, in the table's order: a word is an id ("s22.3"), a
+/// section ("s22"), or occurs in the section's name, the activity or the note, without regard to
+/// accents and case. All rows for a text without words.
 std::vector<const TaskRow*> SearchTasks(std::string_view text);
 
 } // namespace Merivane::Simulation
