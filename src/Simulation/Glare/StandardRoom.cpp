@@ -43,7 +43,9 @@ std::vector<SceneSurface> Box(double x, double y, double z) {
 
 std::int32_t CopiesAlong(double side, double height) {
     const double copies = std::round(side / (SpacingToHeight * height));
-    return copies >= 1.0 ? static_cast<std::int32_t>(std::min(copies, MostCopies)) : 1;
+    return copies >= 1.0 && std::isfinite(copies)
+               ? static_cast<std::int32_t>(std::min(copies, MostCopies))
+               : 1;
 }
 
 SceneLuminaire Grid(const SceneLuminaire& luminaire, const UgrRoom& room) {
