@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "Simulation/Glare/GlareRecords.hpp"
@@ -20,6 +21,19 @@ GlareResult ObserverGlare(const UgrObserver& observer,
                           const std::vector<PlacedLuminaire>& luminaires,
                           double verticalIlluminance, const GlareOptions& options,
                           std::vector<GlareTerm>* terms = nullptr);
+
+/// What the sources alone give an observer, before any background.
+struct GlareSum {
+    double sum = 0.0;   ///< of their terms [cd2/m4]
+    GlareResult counts; ///< its counters; background and value are still missing
+};
+
+/// The sum of `ObserverGlare` without its background, for rooms that differ in reflectances alone.
+GlareSum SumSources(const UgrObserver& observer, const std::vector<PlacedLuminaire>& luminaires,
+                    const GlareOptions& options, std::vector<GlareTerm>* terms = nullptr);
+
+/// The result of a sum of sources against a background, see `ObserverGlare`.
+GlareResult RateSum(const GlareSum& sum, double verticalIlluminance);
 
 /// "< 10" below 10, else one decimal with a decimal comma; compared as printed.
 std::string FormatUgr(double value);
