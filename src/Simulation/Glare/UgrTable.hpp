@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "Photometry/IesFile.hpp"
 #include "Simulation/Glare/GlareRecords.hpp"
 #include "Simulation/Glare/StandardRoom.hpp"
+#include "Simulation/Glare/UpwardFlux.hpp"
 #include "Simulation/Scene.hpp"
 
 namespace Merivane::Simulation {
@@ -34,8 +34,5 @@ TabularUgr TabularForZone(const SceneLuminaire& luminaire, double sizeX, double 
 /// The worst of all four observers and both directions in the reference room.
 double ReferenceRoomUgr(const SceneLuminaire& luminaire, double height,
                         const GlareOptions& options);
-
-/// Part of a file's light that goes above the horizontal [0..1]; 0 without light.
-double UpwardFluxFraction(const Photometry::IesFile& photometry);
 
 } // namespace Merivane::Simulation
