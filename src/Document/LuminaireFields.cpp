@@ -5,6 +5,7 @@
 #include "Document/ShownText.hpp"
 #include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"
+#include "Photometry/LuminaireIdentity.hpp"
 #include "Photometry/LuminaireTypeKey.hpp"
 #include "Photometry/OpeningCodes.hpp"
 
@@ -17,6 +18,7 @@ using Simulation::SceneLuminaire;
 
 constexpr NumberRange Turn = {-360.0, 360.0}; // deg
 constexpr NumberRange Fraction = {0.0, 1.0};
+constexpr NumberRange ColourRenderingRange = {1.0, 100.0};
 
 /// Header texts come in the encoding of the maker's machine; everything behind this shows UTF-8.
 void NormaliseHeader(IesFile& file) {
@@ -69,7 +71,7 @@ std::string HeaderText(const IesFile& file, std::string_view key) {
     return ShownText(value.substr(0, value.find('\n')));
 }
 
-/// Identity as the header of the file tells it.
+/// Identity as the header of the file tells it, where the document does not.
 void TakeHeader(SceneLuminaire& luminaire, const std::string& path) {
     const std::string fileName = path.substr(path.find_last_of('/') + 1);
     const std::string code = HeaderText(luminaire.photometry, "LUMCAT");
@@ -78,6 +80,10 @@ void TakeHeader(SceneLuminaire& luminaire, const std::string& path) {
     luminaire.manufacturer = HeaderText(luminaire.photometry, "MANUFAC");
     luminaire.lamp = HeaderText(luminaire.photometry, "LAMP");
     luminaire.inputWatts = luminaire.photometry.inputWatts;
+    if (luminaire.contract.colourRendering == 0.0) {
+        luminaire.contract.colourRendering =
+            Photometry::ColourRenderingFromIes(luminaire.photometry);
+    }
     luminaire.typeKey = Photometry::LuminaireTypeKey(code, name, luminaire.lamp, fileName);
     if (luminaire.displayName.empty()) {
         name = code.empty() ? name : code;
@@ -125,6 +131,8 @@ bool ReadLuminaire(const Place& place, IesLibrary& library, SceneLuminaire& lumi
                      Optional("direcaoDaInclinacao", Into(contract.tiltDirection, Turn)),
                      Optional("dimerizacao", Into(luminaire.dimming, Fraction)),
                      Optional("fatorDeManutencao", Into(contract.maintenanceFactor, Fraction)),
+                     Optional("indiceDeReproducaoDeCor",
+                              Into(contract.colourRendering, ColourRenderingRange)),
                      Optional("repeticao", readArray),
                      Optional("escalaDeComprimento", Into(luminaire.lengthScale, {0.001, 1000.0}))},
                     error)) {

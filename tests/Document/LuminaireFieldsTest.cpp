@@ -38,6 +38,7 @@ TEST(LuminaireFields, ReadsEveryKey) {
         R"("nome": "L1", "ies": "pasta/a.ies", "posicao": [1, 2, 3], "rotacao": 90,
            "espelhada": true, "centro": [0.1, 0.2, -0.3], "rotacaoC0": 15, "inclinacao": 30,
            "direcaoDaInclinacao": 45, "dimerizacao": 0.5, "fatorDeManutencao": 0.9,
+           "indiceDeReproducaoDeCor": 92.5,
            "repeticao": {"x": 3, "y": 2, "passoX": 1.5, "passoY": -2},
            "escalaDeComprimento": 0.75)"));
     ASSERT_EQ(document.luminaires.size(), 1U);
@@ -60,6 +61,7 @@ TEST(LuminaireFields, ReadsEveryKey) {
     EXPECT_EQ(luminaire.contract.tiltDirection, 45.0);
     EXPECT_EQ(luminaire.dimming, 0.5);
     EXPECT_EQ(luminaire.contract.maintenanceFactor, 0.9);
+    EXPECT_EQ(luminaire.contract.colourRendering, 92.5);
     EXPECT_EQ(luminaire.arrayCountX, 3);
     EXPECT_EQ(luminaire.arrayCountY, 2);
     EXPECT_EQ(luminaire.arrayStepX, 1.5);
@@ -74,6 +76,7 @@ TEST(LuminaireFields, TakesTheDefaults) {
     const SceneLuminaire& luminaire = document.luminaires[0];
     EXPECT_EQ(luminaire.dimming, 1.0);
     EXPECT_EQ(luminaire.contract.maintenanceFactor, 0.8);
+    EXPECT_EQ(luminaire.contract.colourRendering, 0.0);
     EXPECT_EQ(luminaire.rotation, 0.0);
     EXPECT_FALSE(luminaire.mirrored);
     EXPECT_EQ(luminaire.arrayCountX, 1);
@@ -95,6 +98,27 @@ TEST(LuminaireFields, IsNamedAfterItsFileWhereTheDocumentGivesNoName) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         EXPECT_EQ(ReadWithIes(Tests::UniformIes(c.header)).luminaires[0].displayName, c.name);
+    }
+}
+
+TEST(LuminaireFields, TakesTheColourRenderingOfTheHeaderWhereTheDocumentGivesNone) {
+    const std::string given = Placed + R"(, "indiceDeReproducaoDeCor": 1)";
+    struct Case {
+        std::string header;
+        std::string members;
+        double colourRendering;
+    };
+    const Case cases[] = {
+        {"", Placed, 0.0},
+        {"[_RA] 90\n", Placed, 90.0},
+        {"[LAMP] LED IRC \xB3 80\n", Placed, 80.0}, // Windows-1252
+        {"[_RA] 90\n", given, 1.0},
+        {"", given, 1.0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.header + c.members);
+        const SceneDocument document = ReadWithIes(Tests::UniformIes(c.header), c.members);
+        EXPECT_EQ(document.luminaires[0].contract.colourRendering, c.colourRendering);
     }
 }
 
@@ -154,6 +178,10 @@ TEST(LuminaireFields, RefusesWhatIsNoLuminaire) {
          "luminarias[0].dimerizacao: espera-se um número de 0 a 1, mas há 1.01"},
         {Placed + R"(, "fatorDeManutencao": -0.01)",
          "luminarias[0].fatorDeManutencao: espera-se um número de 0 a 1, mas há -0.01"},
+        {Placed + R"(, "indiceDeReproducaoDeCor": 0.99)",
+         "luminarias[0].indiceDeReproducaoDeCor: espera-se um número de 1 a 100, mas há 0.99"},
+        {Placed + R"(, "indiceDeReproducaoDeCor": 100.01)",
+         "luminarias[0].indiceDeReproducaoDeCor: espera-se um número de 1 a 100, mas há 100.01"},
         {Placed + R"(, "rotacao": 361)",
          "luminarias[0].rotacao: espera-se um número de -360 a 360, mas há 361"},
         {Placed + R"(, "inclinacao": 181)",
