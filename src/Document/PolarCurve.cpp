@@ -26,6 +26,9 @@ constexpr double SheetHeight = 150.0;
 constexpr double Edge = 8.0;
 constexpr double Radius = 43.0;
 constexpr double PlotMiddle = 80.0; // height of the middle of the plot on the sheet
+constexpr double AngleWidth = 9.5;  // what the angles beside the plot take
+constexpr double AngleHeight = 5.0; // what those above and below it take
+constexpr double KeyHeight = 5.0;   // what the key below a plot takes
 constexpr double Degree = std::numbers::pi / 180.0;
 constexpr Drawing::Color GridColor{0.72, 0.72, 0.74, 1.0};
 constexpr Drawing::Color TransverseColor{0.78, 0.11, 0.11, 1.0};
@@ -48,6 +51,7 @@ std::array<CurvePlane, 2> CurvePlanes() {
 // What is drawn: circles up to `top`, and the halves of the sphere that hold light.
 struct Plot {
     Point center;
+    double radius = Radius;
     double step = 1.0;   // between circles, in the plotted unit
     double top = 1.0;    // value of the outermost circle
     double factor = 1.0; // candela to the plotted unit
@@ -57,7 +61,7 @@ struct Plot {
 
 // Nadir downwards; `side` +1 to the right, -1 to the left.
 Point At(const Plot& plot, double value, double vertical, double side) {
-    const double distance = Radius * value / plot.top;
+    const double distance = plot.radius * value / plot.top;
     return {plot.center.x + side * distance * std::sin(vertical * Degree),
             plot.center.y - distance * std::cos(vertical * Degree)};
 }
@@ -112,11 +116,24 @@ Plot BuildPlot(const Photometry::IesFile& file, const PolarCurveStyle& style) {
     plot.upper = above >= visible * largest;
     plot.step = CircleStep(largest * plot.factor);
     plot.top = plot.step * std::ceil(largest * plot.factor / plot.step - 1e-9);
-    plot.center = {0.5 * SheetWidth, PlotMiddle};
-    if (plot.lower != plot.upper) {
-        plot.center.y += plot.lower ? 0.5 * Radius : -0.5 * Radius;
-    }
     return plot;
+}
+
+// Puts the middle of what a plot shows at a place.
+void CenterPlot(Plot& plot, const Point& middle) {
+    plot.center = middle;
+    if (plot.lower != plot.upper) {
+        plot.center.y += plot.lower ? 0.5 * plot.radius : -0.5 * plot.radius;
+    }
+}
+
+// Puts a plot into a rectangle, as large as it fits with its angles around it.
+void PlacePlot(Plot& plot, const Drawing::Box& area) {
+    const double halves = plot.lower && plot.upper ? 2.0 : 1.0;
+    const double width = area.right - area.left - 2.0 * AngleWidth;
+    const double height = area.top - area.bottom - 2.0 * AngleHeight;
+    plot.radius = std::min(0.5 * width, height / halves);
+    CenterPlot(plot, {0.5 * (area.left + area.right), 0.5 * (area.bottom + area.top)});
 }
 
 std::string ShortNumber(double value) {
@@ -132,7 +149,7 @@ void AppendGrid(Drawing::Layer& layer, const Plot& plot) {
     const double sweep = (plot.lower && plot.upper ? 2.0 : 1.0) * std::numbers::pi;
     for (int k = 1; k <= circles; ++k) {
         layer.elements.emplace_back(
-            Arc{plot.center, Radius * k / circles, start, start + sweep, fine});
+            Arc{plot.center, plot.radius * k / circles, start, start + sweep, fine});
     }
     for (int vertical = 0; vertical <= 180; vertical += 30) {
         if ((vertical < 90 && !plot.lower) || (vertical > 90 && !plot.upper)) {
@@ -145,7 +162,7 @@ void AppendGrid(Drawing::Layer& layer, const Plot& plot) {
             layer.elements.emplace_back(
                 Polyline{{plot.center, At(plot, plot.top, vertical, side)}, false, fine});
             TextRun angle = SheetText(std::to_string(vertical) + "°", 0.0, 0.0, 1.9);
-            angle.position = At(plot, plot.top * (1.0 + 3.2 / Radius), vertical, side);
+            angle.position = At(plot, plot.top * (1.0 + 3.2 / plot.radius), vertical, side);
             angle.horizontal = vertical % 180 == 0 ? HorizontalAnchor::Center
                                : side > 0.0        ? HorizontalAnchor::Left
                                                    : HorizontalAnchor::Right;
@@ -162,9 +179,9 @@ void AppendCircleLabels(Drawing::Layer& layer, const Plot& plot) {
     const int circles = static_cast<int>(std::lround(plot.top / plot.step));
     const bool under = plot.upper && !plot.lower;
     for (int k = 1; k <= circles; ++k) {
-        TextRun label =
-            FittingText(ShortNumber(k * plot.step), plot.center.x - Radius * k / circles + 0.6,
-                        plot.center.y + (under ? -0.9 : 0.9), Radius / circles - 1.2, {1.7, 0.6});
+        TextRun label = FittingText(
+            ShortNumber(k * plot.step), plot.center.x - plot.radius * k / circles + 0.6,
+            plot.center.y + (under ? -0.9 : 0.9), plot.radius / circles - 1.2, {1.7, 0.6});
         label.vertical = under ? VerticalAnchor::Top : VerticalAnchor::Base;
         label.halo = 0.4;
         layer.elements.emplace_back(label);
@@ -204,14 +221,18 @@ void AppendTitle(Drawing::Layer& layer, const PolarCurveStyle& style) {
     layer.elements.emplace_back(subtitle);
 }
 
-void AppendKey(Drawing::Layer& layer, double y, const std::string& unit) {
-    double x = Edge;
+// Which line is which plane, from `x` to the right.
+void AppendPlaneNames(Drawing::Layer& layer, double x, double y) {
     for (const CurvePlane& plane : CurvePlanes()) {
         layer.elements.emplace_back(
             Polyline{{{x, y + 1.0}, {x + 9.0, y + 1.0}}, false, {0.45, plane.color, plane.dashes}});
         layer.elements.emplace_back(SheetText(plane.name, x + 11.0, y, 2.2));
         x += 34.0;
     }
+}
+
+void AppendKey(Drawing::Layer& layer, double y, const std::string& unit) {
+    AppendPlaneNames(layer, Edge, y);
     TextRun unitText = SheetText("Intensidades em " + unit, SheetWidth - Edge, y, 1.8);
     unitText.horizontal = HorizontalAnchor::Right;
     unitText.color = Muted;
@@ -271,7 +292,8 @@ bool BuildPolarCurve(const Photometry::IesFile& file, const PolarCurveStyle& sty
     if (!CheckPhotometry(file, style, error)) {
         return false;
     }
-    const Plot plot = BuildPlot(file, style);
+    Plot plot = BuildPlot(file, style);
+    CenterPlot(plot, {0.5 * SheetWidth, PlotMiddle});
     Drawing::Layer grid{"Malha polar", {}};
     Drawing::Layer curves{"Curvas", {}};
     Drawing::Layer texts{"Textos", {}};
@@ -287,6 +309,22 @@ bool BuildPolarCurve(const Photometry::IesFile& file, const PolarCurveStyle& sty
             SheetWidth,
             SheetHeight,
             {std::move(grid), std::move(curves), std::move(texts)}};
+    return true;
+}
+
+bool AppendPolarPlot(const Photometry::IesFile& file, const Drawing::Box& area,
+                     Drawing::Layer& layer, std::string& error) {
+    if (!CheckPhotometry(file, {}, error)) {
+        return false;
+    }
+    Plot plot = BuildPlot(file, {});
+    PlacePlot(plot, {area.left, area.bottom + KeyHeight, area.right, area.top});
+    AppendGrid(layer, plot);
+    for (const CurvePlane& plane : CurvePlanes()) {
+        AppendCurve(layer, plot, file, plane);
+    }
+    AppendCircleLabels(layer, plot);
+    AppendPlaneNames(layer, 0.5 * (area.left + area.right) - 30.0, area.bottom);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "Drawing/DisplayList.hpp"
+#include "Drawing/TextSize.hpp"
 #include "Photometry/IesFile.hpp"
 
 namespace Merivane::Document {
@@ -22,5 +23,11 @@ struct PolarCurveStyle {
 /// untouched, `error` holds one Portuguese sentence and the answer is false.
 bool BuildPolarCurve(const Photometry::IesFile& file, const PolarCurveStyle& style,
                      Drawing::DisplayList& list, std::string& error);
+
+/// Draws the plot of a polar curve alone, in cd, into a rectangle of another sheet, at least 60 mm
+/// wide: circles, rays, both planes and their names along its foot. Refuses as `BuildPolarCurve`;
+/// `layer` is then untouched.
+bool AppendPolarPlot(const Photometry::IesFile& file, const Drawing::Box& area,
+                     Drawing::Layer& layer, std::string& error);
 
 } // namespace Merivane::Document
