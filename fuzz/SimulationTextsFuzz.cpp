@@ -1,6 +1,6 @@
-// The first byte chooses the reader: preference block, engine settings, last run or levels.
-// Whatever the bytes, reading ends without a crash, and what is read is written so that it reads
-// back.
+// The first byte chooses the reader: preference block, engine settings, last run, levels or
+// the activities of Zones. Whatever the bytes, reading ends without a crash, and what is read is
+// written so that it reads back.
 
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +12,7 @@
 #include "Simulation/LastRunRecord.hpp"
 #include "Simulation/LevelList.hpp"
 #include "Simulation/PreferenceBlock.hpp"
+#include "Simulation/Verification/ZoneTasksText.hpp"
 
 using namespace Merivane::Simulation;
 
@@ -58,6 +59,24 @@ void ReadLevels(std::string_view bytes) {
     Require(ParseLevels(FormatLevels(levels), back, error) && back == levels);
 }
 
+void ReadZoneTasks(std::string_view bytes) {
+    ZoneRequirementMap map;
+    ReferenceStandard standard = ReferenceStandard::International;
+    if (!ParseZoneTasks(bytes, map, standard)) {
+        Require(map.empty() && standard == ReferenceStandard::Brazilian);
+        return;
+    }
+    // A line break of another system can stand inside a field that is read; it is never written.
+    std::erase_if(map, [](const auto& entry) {
+        return entry.first.find('\r') != std::string::npos ||
+               entry.second.taskId.find('\r') != std::string::npos;
+    });
+    ZoneRequirementMap back;
+    ReferenceStandard standardBack = ReferenceStandard::Brazilian;
+    Require(ParseZoneTasks(SerializeZoneTasks(map, standard), back, standardBack));
+    Require(back == map && standardBack == standard);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -77,6 +96,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         break;
     case 'l':
         ReadLevels(bytes);
+        break;
+    case 't':
+        ReadZoneTasks(bytes);
         break;
     default:
         break;
