@@ -176,12 +176,16 @@ void AppendGrid(Drawing::Layer& layer, const Plot& plot) {
 // Intensities stand along the horizontal, where most luminaires have none, so that they keep clear
 // of the curves.
 void AppendCircleLabels(Drawing::Layer& layer, const Plot& plot) {
+    constexpr double least = 5.6; // [mm] that a readable number takes
     const int circles = static_cast<int>(std::lround(plot.top / plot.step));
+    const double spacing = plot.radius / circles;
+    const int stride = static_cast<int>(std::ceil(least / spacing));
     const bool under = plot.upper && !plot.lower;
-    for (int k = 1; k <= circles; ++k) {
-        TextRun label = FittingText(
-            ShortNumber(k * plot.step), plot.center.x - plot.radius * k / circles + 0.6,
-            plot.center.y + (under ? -0.9 : 0.9), plot.radius / circles - 1.2, {1.7, 0.6});
+    // The outermost circle always has its number; near the middle there may be no room for one.
+    for (int k = circles - (circles / stride - 1) * stride; k <= circles; k += stride) {
+        TextRun label = FittingText(ShortNumber(k * plot.step), plot.center.x - spacing * k + 0.6,
+                                    plot.center.y + (under ? -0.9 : 0.9),
+                                    spacing * std::min(stride, k) - 1.2, {1.7, 0.6});
         label.vertical = under ? VerticalAnchor::Top : VerticalAnchor::Base;
         label.halo = 0.4;
         layer.elements.emplace_back(label);

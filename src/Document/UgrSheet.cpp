@@ -35,7 +35,7 @@ constexpr double PaperHeight = 297.0;
 constexpr double FrameWidth = 152.0;
 constexpr double Left = 0.5 * (PaperWidth - FrameWidth);
 constexpr double Right = Left + FrameWidth;
-constexpr double Top = PaperHeight - 17.0;
+constexpr double Top = PaperHeight - 14.0;
 
 constexpr double RowPitch = 6.0;
 constexpr double ColumnPitch = 13.0;
@@ -43,13 +43,13 @@ constexpr double LabelColumns = 22.0; // X and Y
 constexpr double HeadRows = 4.0;      // three reflectances, one of headings
 constexpr double CellText = 2.2;
 constexpr double SmallText = 1.9;
-constexpr double TableTop = Top - 34.0;
+constexpr double TableTop = Top - 31.5;
 constexpr double TableBottom =
     TableTop - (HeadRows + static_cast<double>(StandardRooms.size())) * RowPitch;
 constexpr double ReferenceBottom = TableBottom - 11.0;
 constexpr double CurveTop = ReferenceBottom - 5.0;
-constexpr double CurveBottom = 43.0;
-constexpr double NotesTop = 36.0;
+constexpr double CurveBottom = 38.0;
+constexpr double NotesTop = 33.0;
 constexpr double FiguresLeft = Left + 84.0;
 
 constexpr Color HeadFill{0.925, 0.933, 0.945, 1.0};
