@@ -65,7 +65,7 @@ std::string Sha256(std::string_view bytes) {
         padded += static_cast<char>(bits >> shift & 0xFFU);
     }
     for (std::size_t start = 0; start < padded.size(); start += 64) {
-        TakeBlock(std::string_view(padded).substr(start, 64), state);
+        TakeBlock(std::string_view{padded}.substr(start, 64), state);
     }
     std::string digits;
     for (const std::uint32_t word : state) {

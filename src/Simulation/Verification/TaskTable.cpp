@@ -351,13 +351,13 @@ std::vector<std::pair<std::int32_t, std::string>> BuildSections() {
 } // namespace
 
 const std::vector<TaskRow>& TaskTable() {
-    static const std::vector<TaskRow> table = BuildTable();
-    return table;
+    static const std::vector<TaskRow> Table = BuildTable();
+    return Table;
 }
 
 const std::vector<std::pair<std::int32_t, std::string>>& TaskSections() {
-    static const std::vector<std::pair<std::int32_t, std::string>> sections = BuildSections();
-    return sections;
+    static const std::vector<std::pair<std::int32_t, std::string>> Table = BuildSections();
+    return Table;
 }
 
 } // namespace Merivane::Simulation
