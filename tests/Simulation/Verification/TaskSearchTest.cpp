@@ -16,6 +16,7 @@ struct Pair {
 
 std::vector<std::string> IdsOf(const std::vector<const TaskRow*>& rows) {
     std::vector<std::string> ids;
+    ids.reserve(rows.size());
     for (const TaskRow* row : rows) {
         ids.push_back(row->id);
     }
@@ -126,7 +127,7 @@ TEST(FoldAccents, NeverGrowsAndChangesNothingTheSecondTime) {
         }
         const std::string once = FoldAccents(text);
         EXPECT_LE(once.size(), text.size());
-        if (once.find("\xC3") == std::string::npos) { // a stray lead may meet a new neighbour
+        if (once.find('\xC3') == std::string::npos) { // a stray lead may meet a new neighbour
             EXPECT_EQ(FoldAccents(once), once);
         }
     }

@@ -189,9 +189,9 @@ TEST(ParseZoneTasks, OneBadLineRefusesTheWholeText) {
     const std::string iso = "MerivaneZoneTasks 2\nnorma\tiso\n";
     const std::string good = "A\ts1.3\t100\t0.4\t0\n";
     for (const std::string& line : bad) {
-        ExpectRefused(iso + line + "\n" + good);
-        ExpectRefused(iso + good + line + "\n");
-        ExpectRefused(iso + good + line);
+        ExpectRefused(std::string(iso).append(line).append("\n").append(good));
+        ExpectRefused(std::string(iso).append(good).append(line).append("\n"));
+        ExpectRefused(std::string(iso).append(good).append(line));
     }
     EXPECT_TRUE(Read(iso + good).ok);
 }
@@ -231,7 +231,7 @@ TEST(ParseZoneTasks, OfATextThatIsCutReadsOnlyWholeLinesAndTheLast) {
     const std::size_t firstLine = text.find("\nB") + 1;
     for (std::size_t length = 0; length < text.size(); ++length) {
         SCOPED_TRACE(text.substr(0, length));
-        const Reading reading = Read(std::string_view(text).substr(0, length));
+        const Reading reading = Read(text.substr(0, length));
         EXPECT_EQ(reading.standard == ReferenceStandard::International, reading.ok);
         EXPECT_EQ(reading.map.contains("A"), reading.ok && length > head);
         if (reading.ok) {
