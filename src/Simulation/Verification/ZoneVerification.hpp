@@ -23,12 +23,13 @@ struct ZoneVerification {
     VerificationInput input;
     std::vector<VerificationRow> rows; ///< none for a Zone that is not verified
     bool passes = true;
-    std::vector<std::string> log;   ///< lines of the run log, without accents
-    std::vector<std::string> notes; ///< of the Zone's sheet
+    std::vector<std::string> log;   ///< lines of the run log; their fixed words have no accents
+    std::vector<std::string> notes; ///< of its screens, printed with the mark "  [7]" behind them
 };
 
 /// Gathers what the scene tells of a Zone and verifies it. A Zone without activity, or with one
-/// that the table does not hold, has no rows.
+/// that the table does not hold, has no rows. Every copy of an array counts as a luminaire; the log
+/// tells the luminance of the whole array in one line.
 ZoneVerification VerifyZoneOfScene(const ZoneSpace& zone, const Scene& scene,
                                    const ZoneResults& results);
 
