@@ -20,6 +20,26 @@ using Simulation::GlareTerm;
 
 constexpr const char* NotReached = "–";
 
+/// How far a light source was looked at before it entered the sum or was left out.
+enum class Stage { Place, Field, Light, Sum };
+
+Stage LastStage(GlareOmission omission) {
+    switch (omission) {
+    case GlareOmission::AtTheEye:
+    case GlareOmission::NotAhead:
+        return Stage::Place;
+    case GlareOmission::NotAbove:
+    case GlareOmission::OutOfField:
+        return Stage::Field;
+    case GlareOmission::NoArea:
+    case GlareOmission::NoIntensity:
+        return Stage::Light;
+    case GlareOmission::None:
+        break;
+    }
+    return Stage::Sum;
+}
+
 /// A quantity of a row: its names and its value.
 struct Column {
     const char* head;  ///< of the text
@@ -28,20 +48,21 @@ struct Column {
     std::size_t width; ///< in the text [characters]
     double GlareTerm::*value;
     int decimals; ///< below 0: six significant digits
+    Stage stage;  ///< at which it is known
 };
 
 constexpr std::array<Column, 11> Columns = {{
-    {"r (m)", "r (m)", "distancia", 8, &GlareTerm::distance, 3},
-    {"H/R", "H/R", "HR", 7, &GlareTerm::heightRatio, 3},
-    {"T/R", "T/R", "TR", 7, &GlareTerm::sideRatio, 3},
-    {"σ (°)", "sigma (graus)", "sigma", 7, &GlareTerm::sigma, 2},
-    {"τ (°)", "tau (graus)", "tau", 7, &GlareTerm::tau, 2},
-    {"I (cd)", "I (cd)", "intensidade", 11, &GlareTerm::intensity, -1},
-    {"A (m²)", "A (m2)", "areaAparente", 12, &GlareTerm::apparentArea, -1},
-    {"L (cd/m²)", "L (cd/m2)", "luminancia", 11, &GlareTerm::luminance, -1},
-    {"ω (sr)", "w (sr)", "anguloSolido", 12, &GlareTerm::solidAngle, -1},
-    {"p", "p", "indiceDePosicao", 9, &GlareTerm::positionIndex, -1},
-    {"termo", "termo (cd2/m4)", "termo", 12, &GlareTerm::term, -1},
+    {"r (m)", "r (m)", "distancia", 8, &GlareTerm::distance, 3, Stage::Place},
+    {"H/R", "H/R", "HR", 7, &GlareTerm::heightRatio, 3, Stage::Field},
+    {"T/R", "T/R", "TR", 7, &GlareTerm::sideRatio, 3, Stage::Field},
+    {"σ (°)", "sigma (graus)", "sigma", 7, &GlareTerm::sigma, 2, Stage::Sum},
+    {"τ (°)", "tau (graus)", "tau", 7, &GlareTerm::tau, 2, Stage::Sum},
+    {"I (cd)", "I (cd)", "intensidade", 11, &GlareTerm::intensity, -1, Stage::Light},
+    {"A (m²)", "A (m2)", "areaAparente", 12, &GlareTerm::apparentArea, -1, Stage::Light},
+    {"L (cd/m²)", "L (cd/m2)", "luminancia", 11, &GlareTerm::luminance, -1, Stage::Sum},
+    {"ω (sr)", "w (sr)", "anguloSolido", 12, &GlareTerm::solidAngle, -1, Stage::Sum},
+    {"p", "p", "indiceDePosicao", 9, &GlareTerm::positionIndex, -1, Stage::Sum},
+    {"termo", "termo (cd2/m4)", "termo", 12, &GlareTerm::term, -1, Stage::Sum},
 }};
 
 constexpr std::size_t NumberWidth = 5;
@@ -50,11 +71,10 @@ constexpr std::size_t ShareWidth = 8;
 
 /// The value of a column, nothing where the light source was left out before it was reached.
 std::optional<double> Reached(const GlareTerm& term, const Column& column) {
-    const double value = term.*column.value;
-    if (term.omission != GlareOmission::None && value == 0.0) {
+    if (column.stage > LastStage(term.omission)) {
         return std::nullopt;
     }
-    return value;
+    return term.*column.value;
 }
 
 std::string Format(double value, const Column& column) {
@@ -162,7 +182,7 @@ std::string CountLine(const ExplainedObserver& seen) {
 
 void AppendObserver(const ExplainedRoom& room, const ExplainedObserver& seen, std::size_t nameWidth,
                     std::vector<std::string>& lines) {
-    const double sum = GlareSum(seen.terms);
+    const double sum = TermSum(seen.terms);
     lines.emplace_back();
     lines.push_back("Observador: " + seen.observer.label);
     lines.push_back(PlaceLine(seen.observer));
@@ -205,7 +225,7 @@ JsonValue RowJson(const ExplainedLight& light, const GlareTerm& term, double sum
 JsonValue ObserverJson(const ExplainedRoom& room, const ExplainedObserver& seen) {
     const Simulation::GlareResult& result = seen.result;
     const Simulation::UgrObserver& observer = seen.observer;
-    const double sum = GlareSum(seen.terms);
+    const double sum = TermSum(seen.terms);
     JsonValue json;
     json.Set("nome", JsonValue::MakeString(observer.label));
     json.Set("posicao", Numbers({observer.x, observer.y, observer.z}));
@@ -250,7 +270,7 @@ std::string TableRow(const ExplainedLight& light, const GlareTerm& term, double 
 
 } // namespace
 
-double GlareSum(const std::vector<GlareTerm>& terms) {
+double TermSum(const std::vector<GlareTerm>& terms) {
     double sum = 0.0;
     for (const GlareTerm& term : terms) {
         sum += term.omission == GlareOmission::None ? term.term : 0.0;
@@ -306,7 +326,7 @@ std::string WriteGlareExplanationTable(const std::vector<ExplainedRoom>& rooms) 
             const std::string start = TableCell(room.title) + ";" + TableCell(seen.observer.label) +
                                       ";" + (valid ? FormatDecimal(seen.result.ugr, 3) : "") + ";" +
                                       (valid ? FormatSignificant(seen.result.background) : "");
-            const double sum = GlareSum(seen.terms);
+            const double sum = TermSum(seen.terms);
             for (const GlareTerm& term : seen.terms) {
                 text += start + TableRow(LightOf(room, term), term, sum);
             }

@@ -33,7 +33,7 @@ struct ExplainedRoom {
 };
 
 /// The terms' sum [cd2/m4].
-double GlareSum(const std::vector<Simulation::GlareTerm>& terms);
+double TermSum(const std::vector<Simulation::GlareTerm>& terms);
 
 /// Why a light source is not in the sum, in Portuguese; empty for one that is.
 std::string GlareOmissionText(Simulation::GlareOmission omission);

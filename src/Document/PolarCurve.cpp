@@ -182,7 +182,8 @@ void AppendCircleLabels(Drawing::Layer& layer, const Plot& plot) {
     const int stride = static_cast<int>(std::ceil(least / spacing));
     const bool under = plot.upper && !plot.lower;
     // The outermost circle always has its number; near the middle there may be no room for one.
-    for (int k = circles - (circles / stride - 1) * stride; k <= circles; k += stride) {
+    for (int k = circles - (std::max(circles / stride, 1) - 1) * stride; k <= circles;
+         k += stride) {
         TextRun label = FittingText(ShortNumber(k * plot.step), plot.center.x - spacing * k + 0.6,
                                     plot.center.y + (under ? -0.9 : 0.9),
                                     spacing * std::min(stride, k) - 1.2, {1.7, 0.6});
