@@ -12,6 +12,9 @@ namespace Merivane::Simulation {
 /// Height of a seated person's eye above the floor [m].
 inline constexpr double SeatedEyeHeight = 1.2;
 
+/// Distance of an observer at mid-wall from the wall behind [m].
+inline constexpr double ObserverClearance = 0.01;
+
 /// A standard room of the tabular method. Its height is `height` + `eyeHeight`.
 struct UgrRoom {
     double lengthX = 0.0; ///< across the line of sight [m]

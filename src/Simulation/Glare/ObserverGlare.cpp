@@ -19,8 +19,7 @@ namespace {
 
 constexpr double Pi = std::numbers::pi;
 constexpr double HighestIndex = 16.0;
-constexpr double SmallArea = 0.005; // m2
-constexpr double LargeAngle = 1.0;  // sr
+constexpr double LargeAngle = 1.0; // sr
 constexpr double HighestHeightRatio = 1.9;
 constexpr double HighestSideRatio = 3.0;
 // A luminaire that stands on the limit is inside, whatever the last digits of its place.
@@ -88,10 +87,10 @@ void Rate(const Sight& sight, const GlareOptions& options, GlareTerm& term) {
     term.tau = Degrees(std::atan2(sight.side, sight.up));
     term.positionIndex = PositionIndex(term.tau, term.sigma);
     const double squaredIndex = term.positionIndex * term.positionIndex;
-    term.smallSource = options.smallSourceTerm && term.apparentArea < SmallArea;
-    term.term = term.smallSource
-                    ? term.intensity * term.intensity / (SmallArea * squaredDistance * squaredIndex)
-                    : term.luminance * term.luminance * term.solidAngle / squaredIndex;
+    term.smallSource = options.smallSourceTerm && term.apparentArea < SmallSourceArea;
+    term.term = term.smallSource ? term.intensity * term.intensity /
+                                       (SmallSourceArea * squaredDistance * squaredIndex)
+                                 : term.luminance * term.luminance * term.solidAngle / squaredIndex;
 }
 
 GlareTerm Term(const PlacedLuminaire& luminaire, const UgrObserver& observer,

@@ -8,6 +8,9 @@
 
 namespace Merivane::Simulation {
 
+/// An opening that shows less than this is a small source of CIE 147 [m2].
+inline constexpr double SmallSourceArea = 0.005;
+
 /// Guth's position index in the form of CIE 117, capped at 16. `sigma` [deg] is the angle of the
 /// source from the line of sight, `tau` [deg] its turn about the line of sight from the vertical.
 double PositionIndex(double tau, double sigma);

@@ -10,8 +10,7 @@ namespace Merivane::Simulation {
 namespace {
 
 constexpr double SpacingToHeight = 0.25;
-constexpr double MostCopies = 1e6;     // a room out of all proportion must not overflow the count
-constexpr double WallClearance = 0.01; // of an observer's eye [m]
+constexpr double MostCopies = 1e6; // a room out of all proportion must not overflow the count
 
 enum Material : std::int32_t { Ceiling = 0, Walls = 1, Floor = 2 };
 
@@ -79,10 +78,11 @@ StandardRoom BuildStandardRoom(const SceneLuminaire& luminaire, const UgrRoom& r
     built.scene.surfaces = Box(x, y, room.height + eye);
     built.scene.luminaires.push_back(Grid(luminaire, room));
     built.observers = {
-        {{x / 2, WallClearance, eye, 0, 1, "meio da parede y = 0, olhando ao longo de Y"},
-         {x / 2, y - WallClearance, eye, 0, -1, "meio da parede y = Y, olhando ao longo de Y"},
-         {WallClearance, y / 2, eye, 1, 0, "meio da parede x = 0, olhando ao longo de X"},
-         {x - WallClearance, y / 2, eye, -1, 0, "meio da parede x = X, olhando ao longo de X"}}};
+        {{x / 2, ObserverClearance, eye, 0, 1, "meio da parede y = 0, olhando ao longo de Y"},
+         {x / 2, y - ObserverClearance, eye, 0, -1, "meio da parede y = Y, olhando ao longo de Y"},
+         {ObserverClearance, y / 2, eye, 1, 0, "meio da parede x = 0, olhando ao longo de X"},
+         {x - ObserverClearance, y / 2, eye, -1, 0,
+          "meio da parede x = X, olhando ao longo de X"}}};
     return built;
 }
 

@@ -4,19 +4,13 @@
 #include <string>
 #include <vector>
 
+#include "Simulation/Geometry.hpp"
 #include "Simulation/Glare/GlareRecords.hpp"
-#include "Simulation/PlacedLuminaire.hpp"
+#include "Simulation/Glare/RoomObservers.hpp"
 #include "Simulation/Scene.hpp"
 #include "Simulation/ZoneSpace.hpp"
 
 namespace Merivane::Simulation {
-
-/// An observer of a real room, with what Radiance gave for the view.
-struct RoomObserver {
-    UgrObserver observer;             ///< its label names it
-    bool placed = false;              ///< put there by the user; else at mid-wall
-    double verticalIlluminance = 0.0; ///< reflected light at the eye, across the sight [lux]
-};
 
 /// Why a model of luminaire has no tabular value.
 enum class TabularOmission {
@@ -70,17 +64,6 @@ struct ZoneGlare {
     std::vector<std::string> notes;    ///< of the Zone's sheet
     std::vector<std::string> warnings; ///< those of the notes that warn, told under "Atenção (UGR)"
 };
-
-/// The observers at mid-wall of a real Zone, eye 1.20 m above its floor, looking into the room: on
-/// the two middle lines of its bounding box, 0.01 m inside the first and the last place where the
-/// line is inside the Zone. None on a line that does not meet the Zone.
-std::vector<UgrObserver> MidWallObservers(const ZoneSpace& zone);
-
-/// The view of an observer as a loose calculation point.
-ScenePoint ObserverView(const UgrObserver& observer);
-
-/// True where an eye stands inside the Zone, in plan and between its floor and ceiling.
-bool HoldsObserver(const ZoneSpace& zone, const UgrObserver& observer);
 
 /// Glare of one Zone: the tabular value of every model of luminaire over it, then what the
 /// observers see of the real layout. `ugrLimit` is the activity's UGRL, 0 where the standard gives
