@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -20,5 +21,22 @@ ErrorCode GetTemporaryFolder(std::wstring& path);
 /// Writes one line into the host's report window; when `withDialog` is set an alert shows it too.
 /// `format` is a printf format without arguments, in UTF-8: a percent sign is written "%%".
 void WriteReport(std::string_view format, bool withDialog);
+
+/// Opens the process window over a long work, with so many phases.
+ErrorCode OpenProcessWindow(std::string_view title, std::int32_t phases);
+
+/// Begins the next phase: its title, and the value at which it is done.
+ErrorCode BeginProcessPhase(std::string_view title, std::int32_t highest);
+
+/// How far the phase has come, 0 to its highest value.
+ErrorCode SetProcessValue(std::int32_t value);
+
+/// Cancelled once the user has asked to stop, else NoError. Ask often: the window lives by it.
+ErrorCode CheckProcessCancelled();
+
+ErrorCode CloseProcessWindow();
+
+/// Shows a folder in the system's file manager. GeneralError when it can't.
+ErrorCode OpenFolder(const std::wstring& path);
 
 } // namespace Merivane::Host

@@ -20,4 +20,20 @@ ErrorCode SetPreferences(std::int32_t version, std::string_view block);
 /// they were.
 ErrorCode GetPreferences(std::int32_t& version, std::string& block);
 
+/// What the project keeps for the add-on under a name.
+struct ProjectData {
+    std::int16_t version = 1;   ///< the add-on's own number for its form
+    std::uint16_t platform = 0; ///< sign of the system that wrote it; 0x5757 is Windows
+    std::string bytes;          ///< any bytes
+
+    bool operator==(const ProjectData&) const = default;
+};
+
+/// Stores data in the open project under `name`, replacing what was there; no undo step.
+/// UndoScopeMisuse inside one; NoPlan; OutOfMemory.
+ErrorCode StoreProjectData(std::string_view name, const ProjectData& data);
+
+/// NoProjectData when nothing stands under `name`; `data` is then as it was.
+ErrorCode GetProjectData(std::string_view name, ProjectData& data);
+
 } // namespace Merivane::Host
