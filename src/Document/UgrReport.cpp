@@ -129,8 +129,8 @@ std::string HeadRow(const std::string& label, double ReflectanceSet::*part) {
 
 std::string GroupRow() {
     constexpr std::size_t group = GroupGap + ValueWidth * ReflectanceSets.size();
-    return std::string(LabelWidth, ' ') + PadLeft("visada transversal à lâmpada", group) +
-           PadLeft("visada ao longo da lâmpada", group);
+    return std::string(LabelWidth, ' ') + PadLeft("visada transversal ao eixo da lâmpada", group) +
+           PadLeft("visada ao longo do eixo da lâmpada", group);
 }
 
 std::string RoomLabel(const UgrRoomSize& room) {
