@@ -94,7 +94,7 @@ RoomReflectances MeanSurfaceReflectances(const Scene& scene, const ZoneSpace& zo
         const Point3D normal = NewellNormal(surface.vertices);
         const double area = std::hypot(normal.x, normal.y, normal.z);
         const Point3D middle = MiddleOf(surface.vertices);
-        if (!(area > 0.0) || !std::isfinite(area) || !IsNear(zone, plan, middle)) {
+        if (!(area > 0.0) || !IsNear(zone, plan, middle)) {
             continue;
         }
         const double levelness = std::abs(normal.z) / area;

@@ -64,8 +64,9 @@ TEST(ColourRenderingFromIes, SearchesTheTextsForItsTags) {
         {"CRI 100", 100.0},
         {"CRI 101", 0.0},
         {"CRI 080", 80.0},
+        {"CRI 0080", 0.0}, // four digits are no index
         {"CRI 9", 0.0},
-        {"CRI 8000", 0.0}, // four digits are no index
+        {"CRI 8000", 0.0},
         {"CRI 80.5", 80.0},
         {"CRI min 80", 0.0},
         {"CRI\n80", 0.0}, // the next line of the header

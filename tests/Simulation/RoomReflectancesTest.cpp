@@ -79,10 +79,23 @@ TEST(MeanSurfaceReflectances, WeighsByAreaFarFromTheOriginToo) {
     const double far = 100000.0;
     ZoneSpace room = Room;
     room.polygon.outer = {{far, far}, {far + 4, far}, {far + 4, far + 4}, {far, far + 4}};
-    const RoomReflectances means =
-        MeanSurfaceReflectances(Surfaces({Level(White, {far + 2, far + 2, 1}, 0.015),
-                                          Level(Gray, {far + 2, far + 2, 1}, 0.005)}),
-                                room, 0.75);
+    const double side = 0.03; // small walls across x and across y, 3 to 1
+    const double z = 2.0;
+    const SceneSurface acrossX = {.materialIndex = White,
+                                  .vertices = {{far + 2, far + 2, z},
+                                               {far + 2, far + 2 + 3 * side, z},
+                                               {far + 2, far + 2 + 3 * side, z + side},
+                                               {far + 2, far + 2, z + side}}};
+    const SceneSurface acrossY = {.materialIndex = Gray,
+                                  .vertices = {{far + 2, far + 2, z},
+                                               {far + 2 + side, far + 2, z},
+                                               {far + 2 + side, far + 2, z + side},
+                                               {far + 2, far + 2, z + side}}};
+    const RoomReflectances means = MeanSurfaceReflectances(
+        Surfaces({Level(White, {far + 2, far + 2, 1}, 0.015),
+                  Level(Gray, {far + 2, far + 2, 1}, 0.005), acrossX, acrossY}),
+        room, 0.75);
+    EXPECT_NEAR(means.walls, 0.7, 1e-9);
     EXPECT_NEAR(means.floor, 0.76, 1e-6);
 }
 
