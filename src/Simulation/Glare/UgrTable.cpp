@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -13,12 +12,11 @@
 #include "Simulation/Glare/RoomRadiosity.hpp"
 #include "Simulation/Glare/RoomTransport.hpp"
 #include "Simulation/Glare/StandardRoom.hpp"
+#include "Simulation/Glare/TableReading.hpp"
 
 namespace Merivane::Simulation {
 
 namespace {
-
-constexpr double Margin = 1e-12; // that a later entry has to beat an earlier one by
 
 // The observers whose value counts in a table: those who look along Y.
 constexpr std::size_t TableObservers = 2;
@@ -42,10 +40,9 @@ using RoomValues = std::array<std::vector<double>, Directions>;
 TableTask BuildTask(const SceneLuminaire& luminaire, double height, const GlareOptions& options,
                     UgrRoomSize largest) {
     TableTask task{luminaire, height, options, 0, 0, {}};
-    const LuminaireGrid grid =
-        BuildLuminaireGrid(BuildStandardRoom(luminaire, TableRoom(largest, {}, height, false)));
-    task.mostX = grid.nx;
-    task.mostY = grid.ny;
+    const StandardRoom room = BuildStandardRoom(luminaire, TableRoom(largest, {}, height, false));
+    task.mostX = room.scene.luminaires.front().arrayCountX;
+    task.mostY = room.scene.luminaires.front().arrayCountY;
     return task;
 }
 
@@ -97,34 +94,6 @@ RoomValues EvaluateTableRoom(TableTask& task, UgrRoomSize size,
     return values;
 }
 
-std::size_t NearestReflectances(double ceiling, double walls) {
-    std::size_t nearest = 0;
-    double best = std::numeric_limits<double>::infinity();
-    for (std::size_t i = 0; i < ReflectanceSets.size(); ++i) {
-        const double dc = ReflectanceSets[i].ceiling - ceiling;
-        const double dw = ReflectanceSets[i].walls - walls;
-        if (dc * dc + dw * dw < best - Margin) {
-            best = dc * dc + dw * dw;
-            nearest = i;
-        }
-    }
-    return nearest;
-}
-
-UgrRoomSize NearestRoom(double x, double y) {
-    UgrRoomSize nearest = StandardRooms[0];
-    double best = std::numeric_limits<double>::infinity();
-    for (const UgrRoomSize& room : StandardRooms) {
-        const double dx = std::log(std::max(x, 1e-6) / room.x);
-        const double dy = std::log(std::max(y, 1e-6) / room.y);
-        if (dx * dx + dy * dy < best - Margin) {
-            best = dx * dx + dy * dy;
-            nearest = room;
-        }
-    }
-    return nearest;
-}
-
 UgrRoomSize LargestRoom() {
     UgrRoomSize largest;
     for (const UgrRoomSize& room : StandardRooms) {
@@ -170,14 +139,14 @@ TabularUgr TabularForZone(const SceneLuminaire& luminaire, double sizeX, double 
     if (!(height > 0.0) || !std::isfinite(height)) {
         return {};
     }
-    const std::size_t set = NearestReflectances(ceiling, walls);
+    const std::size_t set = NearestReflectanceSet(ceiling, walls);
     std::optional<TabularUgr> worst;
     for (const bool swapped : {false, true}) {
         TabularUgr value;
         value.ratioX = (swapped ? sizeY : sizeX) / height;
         value.ratioY = (swapped ? sizeX : sizeY) / height;
         value.reflectanceSet = static_cast<std::int32_t>(set);
-        const UgrRoomSize room = NearestRoom(value.ratioX, value.ratioY);
+        const UgrRoomSize room = NearestStandardRoom(value.ratioX, value.ratioY);
         value.roomX = room.x;
         value.roomY = room.y;
         TableTask task = BuildTask(luminaire, height, options, room);
