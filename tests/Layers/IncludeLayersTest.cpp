@@ -17,11 +17,28 @@ namespace {
 
 using Folders = std::set<std::string>;
 
-const Folders Everything = {
-    "Text",     "Drawing",   "Photometry", "Simulation",       "Simulation/Run",
-    "Radiance", "Document",  "Gdl",        "Simulation/Glare", "Simulation/Verification",
-    "Catalog",  "Tools",     "Host",       "Archicad",         "AddOn/RunLog",
-    "AddOn",    "Workbench", "Program"};
+const Folders Everything = {"Text",
+                            "Drawing",
+                            "Photometry",
+                            "Simulation",
+                            "Simulation/Run",
+                            "Radiance",
+                            "Document",
+                            "Gdl",
+                            "Simulation/Glare",
+                            "Simulation/Verification",
+                            "Catalog",
+                            "Tools",
+                            "Host",
+                            "Archicad",
+                            "AddOn/RunLog",
+                            "AddOn",
+                            "Workbench",
+                            "Workbench/Project",
+                            "Workbench/Bodies",
+                            "Workbench/Interface",
+                            "Workbench/Display",
+                            "Program"};
 
 /// What each folder may include beside itself.
 const std::map<std::string, Folders> Layers = {
@@ -44,7 +61,16 @@ const std::map<std::string, Folders> Layers = {
     {"Archicad",
      {"Text", "Photometry", "Simulation", "Simulation/Glare", "Simulation/Verification", "Radiance",
       "Simulation/Run", "Catalog", "Gdl", "Tools", "Host", "AddOn/RunLog"}},
-    {"Workbench", {"Host", "Text", "Drawing", "Catalog", "Photometry"}},
+    {"AddOn",
+     {"Text", "Photometry", "Simulation", "Simulation/Glare", "Simulation/Verification", "Radiance",
+      "Simulation/Run", "Catalog", "Gdl", "Tools", "Host", "Archicad", "AddOn/RunLog"}},
+    {"Workbench/Project", {"Host", "Text", "Catalog", "Photometry"}},
+    {"Workbench/Bodies", {"Host", "Text", "Workbench/Project"}},
+    {"Workbench/Interface", {"Host", "Text", "Drawing", "Catalog"}},
+    {"Workbench/Display", {"Host", "Text", "Drawing", "Workbench/Project", "Workbench/Bodies"}},
+    {"Workbench",
+     {"Host", "Text", "Drawing", "Catalog", "Photometry", "Workbench/Project", "Workbench/Bodies",
+      "Workbench/Interface", "Workbench/Display"}},
     {"Program", Everything},
 };
 
@@ -54,12 +80,13 @@ const Folders CoreFolders = {
     "Text",    "Photometry", "Simulation", "Radiance",         "Simulation/Run",
     "Catalog", "Gdl",        "Tools",      "Simulation/Glare", "Simulation/Verification"};
 
-/// The layer of a path under src: its folder, `Simulation/Run` and `AddOn/RunLog` being their own.
+/// The layer of a path under src: the innermost of its folders that the table names, its first
+/// folder where there is none.
 std::string LayerOf(const std::string& path) {
-    for (const char* own :
-         {"Simulation/Run", "Simulation/Glare", "Simulation/Verification", "AddOn/RunLog"}) {
-        if (path.starts_with(std::string(own) + "/")) {
-            return own;
+    for (std::size_t end = path.rfind('/'); end != std::string::npos && end > 0;
+         end = path.rfind('/', end - 1)) {
+        if (Layers.count(path.substr(0, end)) == 1) {
+            return path.substr(0, end);
         }
     }
     return path.substr(0, path.find('/'));
