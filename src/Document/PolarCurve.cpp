@@ -176,7 +176,7 @@ void AppendGrid(Drawing::Layer& layer, const Plot& plot) {
 // Intensities stand along the horizontal, where most luminaires have none, so that they keep clear
 // of the curves.
 void AppendCircleLabels(Drawing::Layer& layer, const Plot& plot) {
-    constexpr double least = 5.6; // [mm] that a readable number takes
+    constexpr double least = 6.4; // [mm] that a readable number takes
     const int circles = static_cast<int>(std::lround(plot.top / plot.step));
     const double spacing = plot.radius / circles;
     const int stride = static_cast<int>(std::ceil(least / spacing));
