@@ -30,6 +30,7 @@ struct RawLine {
     std::string palette;
     std::string values;
     std::string height;
+    std::vector<std::string> taskWords;
     std::vector<Judgement> judgements;
 };
 
@@ -128,9 +129,15 @@ CLI::App* AddUgr(CLI::App& app, RawLine& line) {
 CLI::App* AddTasks(CLI::App& app, RawLine& line) {
     CLI::App* command = app.add_subcommand("atividades", "Mostra a tabela de atividades da norma");
     Prepare(*command);
-    command->add_option("TEXTO", line.tasks.text, "Palavras procuradas, sem acentos ou com eles")
+    command->add_option("TEXTO", line.taskWords, "Palavras procuradas, sem acentos ou com eles")
         ->type_name("");
     command->add_flag("--json", line.tasks.json, "Escreve em JSON na saída padrão");
+    line.judgements.emplace_back([&line](std::string& /*error*/) {
+        for (const std::string& word : line.taskWords) {
+            line.tasks.text += (line.tasks.text.empty() ? "" : " ") + word;
+        }
+        return true;
+    });
     return command;
 }
 

@@ -17,6 +17,11 @@ TEST(TasksCommand, TellsTheActivitiesThatATextSpeaksOf) {
 )");
 }
 
+TEST(TasksCommand, TakesWordsWithoutQuotes) {
+    EXPECT_EQ(RunVantoro({"atividades", "REUNIAO", "conferência"}).output,
+              RunVantoro({"atividades", "REUNIAO conferência"}).output);
+}
+
 TEST(TasksCommand, TellsTheWholeTableWithoutAText) {
     const ProgramEnd end = RunVantoro({"atividades"});
     EXPECT_EQ(end.status, 0);
