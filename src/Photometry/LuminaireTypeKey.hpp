@@ -11,4 +11,10 @@ namespace Merivane::Photometry {
 std::string LuminaireTypeKey(std::string_view code, std::string_view name, std::string_view lamp,
                              std::string_view iesFileName, bool isLinear = false);
 
+/// True for the key of a tape or another linear luminaire.
+bool IsLinearTypeKey(std::string_view key);
+
+/// What a key calls its type of luminaire: its name, without one its code; may be empty.
+std::string TypeKeyName(std::string_view key);
+
 } // namespace Merivane::Photometry

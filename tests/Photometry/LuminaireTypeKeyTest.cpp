@@ -29,6 +29,22 @@ TEST(LuminaireTypeKey, SetsLinearLuminairesApart) {
               LuminaireTypeKey("C", "N", "L", "f", true));
 }
 
+TEST(IsLinearTypeKey, ReadsTheMarkBack) {
+    EXPECT_TRUE(IsLinearTypeKey(LuminaireTypeKey("C", "N", "L", "f", true)));
+    EXPECT_FALSE(IsLinearTypeKey(LuminaireTypeKey("C", "N", "L", "f")));
+    EXPECT_FALSE(IsLinearTypeKey(LuminaireTypeKey("C", "N", "\nfita", "f")));
+    EXPECT_FALSE(IsLinearTypeKey(""));
+}
+
+TEST(TypeKeyName, IsTheNameElseTheCode) {
+    EXPECT_EQ(TypeKeyName(LuminaireTypeKey("C-1", "Spot", "LED", "a.ies")), "Spot");
+    EXPECT_EQ(TypeKeyName(LuminaireTypeKey("C-1", "", "LED", "a.ies")), "C-1");
+    EXPECT_EQ(TypeKeyName(LuminaireTypeKey("", "", "LED", "a.ies", true)), "a.ies");
+    EXPECT_EQ(TypeKeyName(LuminaireTypeKey("", "", "LED", "")), "");
+    EXPECT_EQ(TypeKeyName("free text"), "free text");
+    EXPECT_EQ(TypeKeyName(""), "");
+}
+
 TEST(LuminaireTypeKey, TellsFieldsApartByTheirPlace) {
     EXPECT_NE(LuminaireTypeKey("A B", "", "", ""), LuminaireTypeKey("A", "B", "", ""));
     EXPECT_NE(LuminaireTypeKey("A", "B", "", ""), LuminaireTypeKey("A", "", "B", ""));
