@@ -46,17 +46,15 @@ Point3D MiddleOf(const std::vector<Point3D>& vertices) {
     return {middle.x / count, middle.y / count, middle.z / count};
 }
 
-// Newell's normal, twice the area long. Taken from the first vertex, since far from the project's
-// origin a face's area would drown in the products of its coordinates.
+/// Newell's normal, twice the area long.
 Point3D NewellNormal(const std::vector<Point3D>& vertices) {
-    const Point3D& origin = vertices.front();
     Point3D normal;
     for (std::size_t i = 0; i < vertices.size(); ++i) {
         const Point3D& a = vertices[i];
         const Point3D& b = vertices[(i + 1) % vertices.size()];
-        normal.x += (a.y - b.y) * (a.z + b.z - 2.0 * origin.z);
-        normal.y += (a.z - b.z) * (a.x + b.x - 2.0 * origin.x);
-        normal.z += (a.x - b.x) * (a.y + b.y - 2.0 * origin.y);
+        normal.x += (a.y - b.y) * (a.z + b.z);
+        normal.y += (a.z - b.z) * (a.x + b.x);
+        normal.z += (a.x - b.x) * (a.y + b.y);
     }
     return normal;
 }
