@@ -1,6 +1,5 @@
 #include "Simulation/Glare/PatchFactors.hpp"
 
-#include <array>
 #include <cstddef>
 #include <cstdlib>
 
@@ -74,29 +73,27 @@ double WallToWall(const PatchFactors& factors, const PatchPlace& a, const PatchP
 } // namespace
 
 PatchFactors BuildPatchFactors(const RoomCut& cut) {
-    const auto [floor, ceiling, wallY0, wallY, wallX0, wallX] =
-        std::array{RoomSide::Floor, RoomSide::Ceiling, RoomSide::WallY0,
-                   RoomSide::WallY, RoomSide::WallX0,  RoomSide::WallX};
+    using enum RoomSide;
     const int nz = cut.nz;
     PatchFactors factors;
     factors.cut = cut;
     factors.floorToCeiling = Table(cut, cut.nx, cut.ny, [&](int i, int j) {
-        return Pair{{floor, 0, 0}, {ceiling, i, j}};
+        return Pair{{Floor, 0, 0}, {Ceiling, i, j}};
     });
     factors.wallYToWallY = Table(cut, cut.nx, nz, [&](int i, int k) {
-        return Pair{{wallY0, 0, 0}, {wallY, i, k}};
+        return Pair{{WallY0, 0, 0}, {WallY, i, k}};
     });
     factors.wallXToWallX = Table(cut, cut.ny, nz, [&](int j, int k) {
-        return Pair{{wallX0, 0, 0}, {wallX, j, k}};
+        return Pair{{WallX0, 0, 0}, {WallX, j, k}};
     });
     factors.levelToWallY = Table(cut, cut.nx, cut.ny * nz, [&](int i, int jk) {
-        return Pair{{floor, 0, jk / nz}, {wallY0, i, jk % nz}};
+        return Pair{{Floor, 0, jk / nz}, {WallY0, i, jk % nz}};
     });
     factors.levelToWallX = Table(cut, cut.ny, cut.nx * nz, [&](int j, int ik) {
-        return Pair{{floor, ik / nz, 0}, {wallX0, j, ik % nz}};
+        return Pair{{Floor, ik / nz, 0}, {WallX0, j, ik % nz}};
     });
     factors.wallYToWallX = Table(cut, cut.nx, cut.ny * nz, [&](int i, int jk) {
-        return Pair{{wallY0, i, 0}, {wallX0, jk / nz, jk % nz}};
+        return Pair{{WallY0, i, 0}, {WallX0, jk / nz, jk % nz}};
     });
     return factors;
 }
