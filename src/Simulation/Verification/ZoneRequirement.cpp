@@ -23,8 +23,8 @@ ZoneRequirement RequirementFromTask(std::string_view id) {
 TaskCheck CheckAgainstTask(const PointStatistics& statistics, const ZoneRequirement& requirement) {
     TaskCheck check;
     check.defined = !requirement.taskId.empty() && statistics.count > 0;
-    check.emOk = MeetsMinimum(statistics.mean, requirement.em, 0);
-    check.u0Ok = MeetsMinimum(statistics.uniformity, requirement.u0, 2);
+    check.emOk = MeetsMinimum(statistics.mean, PrintedValue(requirement.em, 0), 0);
+    check.u0Ok = MeetsMinimum(statistics.uniformity, PrintedValue(requirement.u0, 2), 2);
     return check;
 }
 
