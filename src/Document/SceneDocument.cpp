@@ -78,6 +78,10 @@ bool ReadPoints(const Place& place, SceneReading& reading, std::string& error) {
     return IntoList(reading.document.points, {0, 0, "pontos"}, ReadPoint)(place, error);
 }
 
+bool ReadObservers(const Place& place, SceneReading& reading, std::string& error) {
+    return IntoList(reading.document.observers, {0, 0, "observadores"}, ReadObserver)(place, error);
+}
+
 bool ReadRoot(const Place& root, SceneReading& reading, std::string& error) {
     SceneDocument& document = reading.document;
     const auto part = [&reading](auto reader) -> FieldReader {
@@ -91,6 +95,9 @@ bool ReadRoot(const Place& root, SceneReading& reading, std::string& error) {
     const FieldReader readLevels = [&document](const Place& place, std::string& text) {
         return ReadLevels(place, document.levels, text);
     };
+    const FieldReader readStandard = [&document](const Place& place, std::string& text) {
+        return ReadStandard(place, document.standard, text);
+    };
     std::int32_t format = 0;
     // Surfaces name materials, so materials stand before them in the table.
     return ReadObject(
@@ -99,6 +106,7 @@ bool ReadRoot(const Place& root, SceneReading& reading, std::string& error) {
          Optional("nome", Into(document.name)), Optional("materiais", part(ReadMaterials)),
          Optional("superficies", part(ReadSurfaces)), Optional("luminarias", part(ReadLuminaires)),
          Optional("zonas", part(ReadZones)), Optional("pontos", part(ReadPoints)),
+         Optional("observadores", part(ReadObservers)), Optional("norma", readStandard),
          Optional("motor", readEngine), Optional("niveis", readLevels)},
         error);
 }
@@ -135,6 +143,9 @@ bool ParseSceneDocument(std::string_view text, const IesLoader& loadIes, SceneDo
         return Refuse(root, "nada a calcular: espera-se ao menos uma Zona ou um ponto", error);
     }
     document.warnings = std::move(reading.library.warnings);
+    for (std::string& warning : ActivityWarnings(document.zones)) {
+        document.warnings.push_back(std::move(warning));
+    }
     if (document.luminaires.empty()) {
         document.warnings.emplace_back("O documento não tem luminárias: todo valor será 0.");
     }

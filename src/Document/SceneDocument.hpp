@@ -8,8 +8,10 @@
 #include "Simulation/CalculationGrid.hpp"
 #include "Simulation/EngineSettings.hpp"
 #include "Simulation/Geometry.hpp"
+#include "Simulation/Glare/GlareRecords.hpp"
 #include "Simulation/LevelList.hpp"
 #include "Simulation/Scene.hpp"
+#include "Simulation/Verification/ZoneRequirement.hpp"
 
 /// The scene document: a JSON text with Portuguese keys that tells one calculation whole. Its keys,
 /// units, ranges and defaults stand in docs/cena.md.
@@ -17,6 +19,13 @@ namespace Merivane::Document {
 
 /// The newest format of the document that is understood.
 inline constexpr int SceneFormat = 1;
+
+/// What a Zone is verified against.
+struct ZoneTask {
+    /// With an empty `taskId` the Zone is not verified; otherwise the table has its row.
+    Simulation::ZoneRequirement requirement;
+    bool byName = false; ///< the activity was to be suggested from the Zone's name
+};
 
 /// One Zone as the document tells it: a room whose work plane is calculated.
 struct DocumentZone {
@@ -28,6 +37,7 @@ struct DocumentZone {
     bool calculateWalls = false;
     bool calculateCeiling = false;
     bool calculateFloor = false;
+    ZoneTask task;
 };
 
 /// A scene document as read, every name resolved and every value inside its range.
@@ -37,8 +47,10 @@ struct SceneDocument {
     std::vector<Simulation::SceneSurface> surfaces;     ///< flat, of an area above 0
     std::vector<Simulation::SceneLuminaire> luminaires; ///< with their photometry
     std::vector<DocumentZone> zones;
-    std::vector<Simulation::ScenePoint> points; ///< directions of length 1
-    Simulation::EngineSettings engine;          ///< `profile` is that of the numbers
+    std::vector<Simulation::ScenePoint> points;     ///< directions of length 1
+    std::vector<Simulation::UgrObserver> observers; ///< placed by the user; sights of length 1
+    Simulation::ReferenceStandard standard = Simulation::ReferenceStandard::Brazilian;
+    Simulation::EngineSettings engine; ///< `profile` is that of the numbers
     Simulation::LevelList levels;
     std::vector<std::string> warnings; ///< Portuguese sentences, nothing that stops the work
 };

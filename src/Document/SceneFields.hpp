@@ -41,6 +41,22 @@ bool ReadLuminaire(const Place& place, IesLibrary& library, Simulation::SceneLum
 
 bool ReadZone(const Place& place, DocumentZone& zone, std::string& error);
 
+/// The readers of what a Zone is verified against, each for its key. The activity's is to stand
+/// behind that of the Zone's name and before those of its own values.
+FieldReader IntoActivity(DocumentZone& zone);
+FieldReader IntoScreens(std::int32_t& screens);
+
+/// Refuses values of a Zone's own that no activity takes.
+bool CheckActivity(const Place& zonePlace, std::string& error);
+
+/// A sentence for each Zone whose name was to suggest an activity and does not.
+std::vector<std::string> ActivityWarnings(const std::vector<DocumentZone>& zones);
+
+bool ReadStandard(const Place& place, Simulation::ReferenceStandard& standard, std::string& error);
+
+/// An observer without a name gets its number in the list, from 1.
+bool ReadObserver(const Place& place, Simulation::UgrObserver& observer, std::string& error);
+
 bool ReadPoint(const Place& place, Simulation::ScenePoint& point, std::string& error);
 
 bool ReadEngine(const Place& place, Simulation::EngineSettings& engine, std::string& error);

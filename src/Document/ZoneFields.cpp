@@ -103,10 +103,14 @@ bool ReadZone(const Place& place, DocumentZone& zone, std::string& error) {
                        Optional("espacamento", Into(grid.spacing, {0.0, 100.0})),
                        Optional("calcularParedes", Into(zone.calculateWalls)),
                        Optional("calcularTeto", Into(zone.calculateCeiling)),
-                       Optional("calcularPiso", Into(zone.calculateFloor))},
+                       Optional("calcularPiso", Into(zone.calculateFloor)),
+                       Optional("atividade", IntoActivity(zone)),
+                       Optional("em", Into(zone.task.requirement.em, {0.0, 10000.0})),
+                       Optional("u0", Into(zone.task.requirement.u0, {0.0, 1.0})),
+                       Optional("telas", IntoScreens(zone.task.requirement.screens))},
                       error) &&
-           CheckOutline(place, zone.outline, error) && CheckHeights(place, zone, error) &&
-           CheckSpacing(place, grid.spacing, error);
+           CheckActivity(place, error) && CheckOutline(place, zone.outline, error) &&
+           CheckHeights(place, zone, error) && CheckSpacing(place, grid.spacing, error);
 }
 
 bool ReadPoint(const Place& place, Simulation::ScenePoint& point, std::string& error) {
