@@ -1,8 +1,11 @@
 #include "Document/SceneBuild.hpp"
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "Document/DocumentFields.hpp"
+#include "Simulation/Glare/ZoneGlare.hpp"
 #include "Simulation/ZoneSurfaces.hpp"
 
 namespace Merivane::Document {
@@ -103,7 +106,50 @@ bool AddSurfaces(const SceneDocument& document, std::size_t zoneIndex, BuiltScen
     return true;
 }
 
+/// The views of the document's observers, each made when the first Zone holds it.
+using PlacedViews = std::vector<std::optional<std::size_t>>;
+
+std::size_t AddView(const Simulation::UgrObserver& observer, BuiltScene& built) {
+    built.scene.points.push_back(Simulation::ObserverView(observer));
+    return built.scene.points.size() - 1;
+}
+
+void AddObserversOfZone(const SceneDocument& document, std::size_t zone, PlacedViews& views,
+                        BuiltScene& built) {
+    const Simulation::ZoneSpace space = SpaceOf(document.zones[zone]);
+    for (const Simulation::UgrObserver& observer : Simulation::MidWallObservers(space)) {
+        built.observers.push_back({zone, AddView(observer, built), false, observer});
+    }
+    for (std::size_t i = 0; i < views.size(); ++i) {
+        const Simulation::UgrObserver& observer = document.observers[i];
+        if (!Simulation::HoldsObserver(space, observer)) {
+            continue;
+        }
+        if (!views[i]) {
+            views[i] = AddView(observer, built);
+        }
+        built.observers.push_back({zone, *views[i], true, observer});
+    }
+}
+
+void AddObservers(const SceneDocument& document, BuiltScene& built) {
+    PlacedViews views(document.observers.size());
+    for (std::size_t zone = 0; zone < document.zones.size(); ++zone) {
+        AddObserversOfZone(document, zone, views, built);
+    }
+    const auto ignored = std::count(views.begin(), views.end(), std::nullopt);
+    if (ignored > 0) {
+        built.notices.push_back(std::to_string(ignored) +
+                                " observador(es) UGR fora das Zonas calculadas (ou com o olho fora "
+                                "da altura da Zona): ignorado(s)");
+    }
+}
+
 } // namespace
+
+Simulation::ZoneSpace SpaceOf(const DocumentZone& zone) {
+    return {zone.name, zone.outline, zone.floorLevel, zone.height};
+}
 
 std::string PlaneKindName(PlaneKind kind) {
     switch (kind) {
@@ -125,12 +171,14 @@ bool BuildScene(const SceneDocument& document, BuiltScene& built, std::string& e
     built.scene.surfaces = document.surfaces;
     built.scene.luminaires = document.luminaires;
     built.scene.points = document.points;
+    built.pointCount = document.points.size();
     for (std::size_t zone = 0; zone < document.zones.size(); ++zone) {
         if (!AddWorkPlane(document, zone, built, error) ||
             !AddSurfaces(document, zone, built, error)) {
             return false;
         }
     }
+    AddObservers(document, built);
     return true;
 }
 

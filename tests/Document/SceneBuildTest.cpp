@@ -87,7 +87,83 @@ TEST(SceneBuild, CarriesTheRestOfTheDocument) {
     EXPECT_EQ(built.scene.materials.size(), 1U);
     EXPECT_EQ(built.scene.surfaces.size(), 1U);
     EXPECT_EQ(built.scene.luminaires.size(), 1U);
-    EXPECT_EQ(built.scene.points.size(), 1U);
+    EXPECT_EQ(built.pointCount, 1U);
+    ASSERT_FALSE(built.scene.points.empty());
+    EXPECT_EQ(built.scene.points[0].z, 1.0);
+    EXPECT_EQ(built.notices, std::vector<std::string>());
+}
+
+TEST(SceneBuild, AddsTheViewsOfTheObserversAtMidWallBehindThePoints) {
+    const BuiltScene built =
+        Build(ReadScene(SceneText(R"("pontos": [{"posicao": [1, 1, 1]}])"))); // a square of 4 m
+    ASSERT_EQ(built.scene.points.size(), 5U);
+    ASSERT_EQ(built.observers.size(), 4U);
+    for (std::size_t i = 0; i < 4; ++i) {
+        const SceneObserver& seen = built.observers[i];
+        EXPECT_EQ(seen.zone, 0U);
+        EXPECT_EQ(seen.point, i + 1);
+        EXPECT_FALSE(seen.placed);
+        const Simulation::ScenePoint& view = built.scene.points[seen.point];
+        EXPECT_EQ(view.x, seen.observer.x);
+        EXPECT_EQ(view.y, seen.observer.y);
+        EXPECT_EQ(view.z, 1.2);
+        EXPECT_EQ(view.directionX, seen.observer.dx);
+        EXPECT_EQ(view.directionY, seen.observer.dy);
+        EXPECT_EQ(view.directionZ, 0.0);
+    }
+}
+
+TEST(SceneBuild, GivesAPlacedObserverToEveryZoneThatHoldsIt) {
+    const BuiltScene built = Build(ReadScene(R"({"formato": 1, "zonas": [
+        {"nome": "A", "altura": 3, "contorno": [[0, 0], [4, 0], [4, 4], [0, 4]]},
+        {"nome": "B", "altura": 3, "contorno": [[2, 0], [8, 0], [8, 4], [2, 4]]}],
+        "observadores": [
+            {"nome": "só em B", "posicao": [7, 2, 1.2], "direcao": [1, 0]},
+            {"nome": "nas duas", "posicao": [3, 2, 1.2], "direcao": [0, 1]},
+            {"nome": "só em A", "posicao": [1, 2, 1.2], "direcao": [1, 0]}]})"));
+    struct Expected {
+        std::size_t zone;
+        std::string label;
+    };
+    const Expected expected[] = {{0, "nas duas"}, {0, "só em A"}, {1, "só em B"}, {1, "nas duas"}};
+    std::vector<SceneObserver> placed;
+    for (const SceneObserver& seen : built.observers) {
+        if (seen.placed) {
+            placed.push_back(seen);
+        }
+    }
+    ASSERT_EQ(placed.size(), 4U);
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(placed[i].zone, expected[i].zone);
+        EXPECT_EQ(placed[i].observer.label, expected[i].label);
+        EXPECT_EQ(built.scene.points[placed[i].point].x, placed[i].observer.x);
+    }
+    EXPECT_EQ(placed[0].point, placed[3].point); // calculated once
+    EXPECT_EQ(built.scene.points.size(), 8U + 3U);
+    EXPECT_EQ(built.notices, std::vector<std::string>());
+}
+
+TEST(SceneBuild, CountsTheObserversThatStandInNoZone) {
+    struct Case {
+        std::string position;
+        bool inside;
+    };
+    const Case cases[] = {{"[2, 2, 1.2]", true},
+                          {"[4.01, 2, 1.2]", false},
+                          {"[2, 2, 2.99]", true},
+                          {"[2, 2, 3.01]", false},
+                          {"[2, 2, -0.01]", false}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.position);
+        const BuiltScene built = Build(ReadScene(SceneText(
+            "\"observadores\": [{\"posicao\": " + c.position + ", \"direcao\": [1, 0]}]")));
+        EXPECT_EQ(built.scene.points.size(), c.inside ? 5U : 4U);
+        EXPECT_EQ(built.notices,
+                  c.inside ? std::vector<std::string>()
+                           : std::vector<std::string>{
+                                 "1 observador(es) UGR fora das Zonas calculadas (ou com o olho "
+                                 "fora da altura da Zona): ignorado(s)"});
+    }
 }
 
 TEST(SceneBuild, TheExamplesOfTheProjectAreScenes) {
