@@ -1,0 +1,62 @@
+#include <gtest/gtest.h>
+
+#include "Document/SurfaceReference.hpp"
+#include "Simulation/Verification/TaskSearch.hpp"
+
+namespace Merivane::Document {
+namespace {
+
+using Simulation::VerificationRow;
+
+struct Plane {
+    std::size_t zone;
+    PlaneKind kind;
+    Simulation::PointStatistics statistics;
+};
+
+std::vector<VerificationRow> RowsOf(const std::vector<Plane>& planes,
+                                    const Simulation::TaskRow* task = nullptr) {
+    BuiltScene built;
+    Simulation::SimulationResult result;
+    for (const Plane& plane : planes) {
+        built.planes.push_back({plane.zone, plane.kind, 0});
+        result.zones.push_back({"", {}, plane.statistics});
+    }
+    return SurfaceRows(built, result, 1, task);
+}
+
+TEST(SurfaceRows, CompareCeilingAndWallsAsPrinted) {
+    // Two walls of 100 and 300 points: their mean is 25 / 4 + 3 x 58 / 4 = 49.75.
+    const std::vector<VerificationRow> rows =
+        RowsOf({{1, PlaneKind::WorkPlane, {9, 500, 400, 600, 0.8}},
+                {1, PlaneKind::Wall, {100, 25, 4.95, 40, 0.2}},
+                {1, PlaneKind::Wall, {300, 58, 20, 70, 0.34}},
+                {0, PlaneKind::Wall, {300, 9, 1, 9, 0.1}}, // of another Zone
+                {1, PlaneKind::Floor, {100, 9, 1, 9, 0.1}},
+                {1, PlaneKind::Ceiling, {50, 29.4, 2.7, 40, 0.094}}});
+    ASSERT_EQ(rows.size(), 4U);
+    const auto recommendation = Simulation::VerificationKind::Recommendation;
+    EXPECT_EQ(rows[0], (VerificationRow{"Teto", "29 lx", "≥ 30 lx", true, false, recommendation}));
+    EXPECT_EQ(rows[1], (VerificationRow{"Teto U0", "0,09", "≥ 0,10", true, false, recommendation}));
+    EXPECT_EQ(rows[2],
+              (VerificationRow{"Paredes", "50 lx", "≥ 50 lx", true, true, recommendation}));
+    EXPECT_EQ(rows[3],
+              (VerificationRow{"Paredes U0", "0,10", "≥ 0,10", true, true, recommendation}));
+}
+
+TEST(SurfaceRows, TakeTheReferenceOfTheSection) {
+    const std::vector<Plane> planes = {{1, PlaneKind::Wall, {100, 60, 20, 70, 0.33}},
+                                       {1, PlaneKind::Ceiling, {100, 60, 20, 70, 0.33}}};
+    const std::vector<VerificationRow> rows = RowsOf(planes, Simulation::FindTask("s22.2"));
+    EXPECT_EQ(rows[0].required, "≥ 50 lx");
+    EXPECT_EQ(rows[2].required, "≥ 75 lx");
+    EXPECT_EQ(RowsOf(planes, Simulation::FindTask("s1.1"))[2].required, "≥ 50 lx");
+}
+
+TEST(SurfaceRows, AreThereOnlyForWhatWasCalculated) {
+    EXPECT_TRUE(RowsOf({{1, PlaneKind::WorkPlane, {9, 500, 400, 600, 0.8}}}).empty());
+    EXPECT_EQ(RowsOf({{1, PlaneKind::Wall, {1, 60, 20, 70, 0.33}}}).size(), 2U);
+}
+
+} // namespace
+} // namespace Merivane::Document
