@@ -14,6 +14,7 @@
 #include "Document/SceneBuild.hpp"
 #include "Document/SceneDocument.hpp"
 #include "Document/ShownText.hpp"
+#include "Document/ZoneAnalysis.hpp"
 #include "Simulation/PolygonGeometry.hpp"
 
 using namespace Merivane;
@@ -65,13 +66,20 @@ void BuildAll(const Document::SceneDocument& document) {
     }
     Require(built.planes.size() == built.scene.sensorPlanes.size());
     const Simulation::SimulationResult result = DarkResult(built);
+    std::vector<Document::ZoneAnalysis> analyses;
+    for (std::size_t zone = 0; zone < document.zones.size(); ++zone) {
+        analyses.push_back(Document::AnalyseZone(document, built, result, zone, true));
+    }
     Catalog::JsonValue json;
-    Require(
-        Catalog::JsonParse(Document::WriteResultDocument(document, built, result, {}), json).ok);
+    Document::RunRecord run;
+    run.explained = true;
+    Require(Catalog::JsonParse(
+                Document::WriteResultDocument(document, built, result, analyses, run), json)
+                .ok);
     for (std::size_t i = 0; i < result.zones.size(); ++i) {
         Document::WritePlaneTable(built.scene.sensorPlanes[i], result.zones[i].illuminance);
     }
-    Document::AssemblePlans(document, built, result, {});
+    Document::AssemblePlans(document, built, result, analyses, {});
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <limits>
 
+#include "Document/GlareSummary.hpp"
 #include "Document/PlanScene.hpp"
 #include "Simulation/PrintedValue.hpp"
 
@@ -59,8 +60,31 @@ double LuminaireLimit(const std::vector<Floor>& floors, const Floor& floor) {
     return limit;
 }
 
-PlanZone AssembleZone(const SceneDocument& document, const BuiltScene& built,
-                      const Simulation::SimulationResult& result, std::size_t zoneIndex) {
+/// Everything that the plans are made of.
+struct PlanSources {
+    const SceneDocument& document;
+    const BuiltScene& built;
+    const Simulation::SimulationResult& result;
+    const std::vector<ZoneAnalysis>& analyses;
+};
+
+PlanVerdict AssembleVerdict(const ZoneAnalysis& analysis, Simulation::ReferenceStandard standard) {
+    PlanVerdict verdict;
+    verdict.activity = analysis.task != nullptr ? analysis.task->activity : "";
+    verdict.standard = Simulation::ReferenceStandardName(standard);
+    verdict.rows = analysis.verification.rows;
+    verdict.notes = GlareSummary(analysis);
+    for (const std::string& warning : analysis.glare.warnings) {
+        verdict.notes.push_back("Atenção (UGR): " + warning);
+    }
+    const std::vector<std::string>& screens = analysis.verification.notes;
+    verdict.notes.insert(verdict.notes.end(), screens.begin(), screens.end());
+    verdict.surfaces = analysis.surfaces;
+    return verdict;
+}
+
+PlanZone AssembleZone(const PlanSources& sources, std::size_t zoneIndex) {
+    const auto& [document, built, result, analyses] = sources;
     const DocumentZone& zone = document.zones[zoneIndex];
     PlanZone plan;
     plan.name = zone.name;
@@ -73,6 +97,9 @@ PlanZone AssembleZone(const SceneDocument& document, const BuiltScene& built,
             plan.values = result.zones[i].illuminance;
             plan.statistics = result.zones[i].statistics;
         }
+    }
+    if (zoneIndex < analyses.size()) {
+        plan.verdict = AssembleVerdict(analyses[zoneIndex], document.standard);
     }
     return plan;
 }
@@ -89,19 +116,17 @@ std::vector<PlanLuminaire> AssembleLuminaires(const Simulation::Scene& scene, do
     return CollectPlanLuminaires(floorScene);
 }
 
-PlanContents AssembleFloor(const SceneDocument& document, const BuiltScene& built,
-                           const Simulation::SimulationResult& result, const Floor& floor,
-                           double luminaireLimit) {
+PlanContents AssembleFloor(const PlanSources& sources, const Floor& floor, double luminaireLimit) {
+    const Simulation::Scene& scene = sources.built.scene;
     PlanContents contents;
-    contents.title = document.name;
+    contents.title = sources.document.name;
     contents.floor = "Nível " + Simulation::FormatDecimal(floor.level, 2) + " m";
     for (const std::size_t zone : floor.zones) {
-        contents.zones.push_back(AssembleZone(document, built, result, zone));
+        contents.zones.push_back(AssembleZone(sources, zone));
     }
-    contents.luminaires = AssembleLuminaires(built.scene, floor.level - SameLevel, luminaireLimit);
-    contents.segments =
-        CutSurfaces(built.scene, floor.level + std::min(CutHeight, floor.lowest / 2.0));
-    contents.levels = document.levels;
+    contents.luminaires = AssembleLuminaires(scene, floor.level - SameLevel, luminaireLimit);
+    contents.segments = CutSurfaces(scene, floor.level + std::min(CutHeight, floor.lowest / 2.0));
+    contents.levels = sources.document.levels;
     return contents;
 }
 
@@ -109,7 +134,9 @@ PlanContents AssembleFloor(const SceneDocument& document, const BuiltScene& buil
 
 std::vector<FloorPlan> AssemblePlans(const SceneDocument& document, const BuiltScene& built,
                                      const Simulation::SimulationResult& result,
+                                     const std::vector<ZoneAnalysis>& analyses,
                                      const std::vector<std::string>& notes) {
+    const PlanSources sources{document, built, result, analyses};
     const std::vector<Floor> floors = GroupFloors(document);
     std::vector<FloorPlan> plans;
     for (const Floor& floor : floors) {
@@ -117,8 +144,7 @@ std::vector<FloorPlan> AssemblePlans(const SceneDocument& document, const BuiltS
         plan.level = floor.level;
         plan.fileName =
             floors.size() == 1 ? "planta" : "planta-" + std::to_string(plans.size() + 1);
-        plan.contents =
-            AssembleFloor(document, built, result, floor, LuminaireLimit(floors, floor));
+        plan.contents = AssembleFloor(sources, floor, LuminaireLimit(floors, floor));
         plan.contents.notes = notes;
         plans.push_back(std::move(plan));
     }

@@ -5,6 +5,7 @@
 
 #include "Document/ResultPlan.hpp"
 #include "Document/SceneBuild.hpp"
+#include "Document/ZoneAnalysis.hpp"
 #include "Simulation/SimulationRecords.hpp"
 
 namespace Merivane::Document {
@@ -21,9 +22,11 @@ struct FloorPlan {
 /// the floor meets (half-way up where the rooms are lower than 2 m), and the luminaires between
 /// the floor and the highest of its ceilings. `notes` go to the foot of each.
 ///
-/// Without Zones there is no plan. `result` must be that of `built.scene`.
+/// Without Zones there is no plan. `result` must be that of `built.scene`, `analyses` those of the
+/// document's Zones, in order.
 std::vector<FloorPlan> AssemblePlans(const SceneDocument& document, const BuiltScene& built,
                                      const Simulation::SimulationResult& result,
+                                     const std::vector<ZoneAnalysis>& analyses,
                                      const std::vector<std::string>& notes);
 
 } // namespace Merivane::Document

@@ -1,6 +1,9 @@
 #include "Document/PlanLegend.hpp"
 
+#include <algorithm>
+
 #include "Document/SheetText.hpp"
+#include "Drawing/TextSize.hpp"
 #include "Simulation/ColorScale.hpp"
 
 namespace Merivane::Document {
@@ -12,6 +15,7 @@ constexpr double RowPitch = 5.0;
 constexpr double SwatchWidth = 8.0;
 constexpr double SwatchHeight = 4.0;
 constexpr double TextLeft = 10.0;
+constexpr double LegendWidth = 36.0; // at least, for the title
 
 void AppendRow(SheetBlock& block, double head, const Drawing::Color& color,
                const std::string& range) {
@@ -23,6 +27,7 @@ void AppendRow(SheetBlock& block, double head, const Drawing::Color& color,
     block.elements.emplace_back(Drawing::Polyline{swatch, true, {0.13, Muted, {}}});
     Drawing::TextRun text = SheetText(range, TextLeft, head - 0.5 * SwatchHeight, 2.0);
     text.vertical = Drawing::VerticalAnchor::Middle;
+    block.width = std::max(block.width, Drawing::TextBounds(text).right);
     block.elements.emplace_back(text);
 }
 
@@ -36,6 +41,7 @@ Drawing::Color PlanBandColor(const Simulation::LevelList& levels, std::uint32_t 
 
 SheetBlock BuildLegendBlock(const Simulation::LevelList& levels, std::uint32_t colorScale) {
     SheetBlock block;
+    block.width = LegendWidth;
     block.elements.emplace_back(
         SheetText(Simulation::LegendTitle, 0.0, -TitleDrop, 2.5, Drawing::TextWeight::Bold));
     double head = -RowsDrop;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Merivane::Document {
 namespace {
@@ -31,23 +32,25 @@ double ColumnHeight(const PaperSize& paper) {
     return paper.height - 2.0 * Margin - TitleHeight - FootHeight;
 }
 
-// Lays the blocks one below the other into columns, in order. Columns stand from x = 0 to the
-// right, the head of each at y = 0.
-std::vector<PlacedBlock> FlowBlocks(const std::vector<SheetBlock>& blocks, double columnHeight) {
+// Blocks laid one below the other into columns, in order. Columns stand from x = 0 to the right,
+// each as wide as its widest block, the head of each at y = 0.
+struct Columns {
     std::vector<PlacedBlock> placed;
+    double width = 0.0; // of all, with the gaps between them
+};
+
+Columns FlowBlocks(const std::vector<SheetBlock>& blocks, double columnHeight) {
+    Columns columns;
     Drawing::Point corner;
     for (std::size_t k = 0; k < blocks.size(); ++k) {
         if (corner.y < 0.0 && corner.y - blocks[k].height < -columnHeight) {
-            corner = {corner.x + ColumnWidth + Gap, 0.0};
+            corner = {columns.width + Gap, 0.0};
         }
-        placed.push_back({k, corner});
+        columns.placed.push_back({k, corner});
+        columns.width = std::max(columns.width, corner.x + blocks[k].width);
         corner.y -= blocks[k].height + Gap;
     }
-    return placed;
-}
-
-double ColumnsWidth(const std::vector<PlacedBlock>& placed) {
-    return placed.empty() ? 0.0 : placed.back().corner.x + ColumnWidth;
+    return columns;
 }
 
 double HighestBlock(const std::vector<SheetBlock>& blocks) {
@@ -62,7 +65,7 @@ double HighestBlock(const std::vector<SheetBlock>& blocks) {
 // `paper` has them.
 PaperSize NeededPaper(const Box& bounds, const std::vector<SheetBlock>& blocks, double scale,
                       const PaperSize& paper) {
-    const double columns = ColumnsWidth(FlowBlocks(blocks, ColumnHeight(paper)));
+    const double columns = FlowBlocks(blocks, ColumnHeight(paper)).width;
     const double planWidth = (bounds.right - bounds.left) * 1000.0 / scale + 2.0 * PlanEdge;
     const double planHeight = (bounds.top - bounds.bottom) * 1000.0 / scale + 2.0 * PlanEdge;
     return {2.0 * Margin + planWidth + (columns > 0.0 ? Gap + columns : 0.0),
@@ -150,8 +153,9 @@ PlanSheet ArrangeSheet(const Box& bounds, const std::vector<SheetBlock>& blocks,
     sheet.titleArea = {Margin, head, right, sheet.height - Margin};
     sheet.footArea = {Margin, Margin, right, Margin + FootHeight};
 
-    sheet.blocks = FlowBlocks(blocks, ColumnHeight(choice.paper));
-    const double columns = ColumnsWidth(sheet.blocks);
+    Columns flow = FlowBlocks(blocks, ColumnHeight(choice.paper));
+    const double columns = flow.width;
+    sheet.blocks = std::move(flow.placed);
     for (PlacedBlock& placed : sheet.blocks) {
         placed.corner.x += right - columns;
         placed.corner.y += head;

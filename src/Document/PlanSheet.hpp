@@ -8,15 +8,16 @@
 
 namespace Merivane::Document {
 
+/// Width of a column of blocks where none is wider [mm].
+inline constexpr double ColumnWidth = 70.0;
+
 /// Drawing that stands in a column beside the plan, from its upper left corner: x to the right,
-/// y upwards, so that everything lies between 0 and -`height` [mm].
+/// y upwards, so that everything lies between 0 and `width`, 0 and -`height` [mm].
 struct SheetBlock {
-    double height = 0.0; ///< [mm]
+    double width = ColumnWidth; ///< [mm]
+    double height = 0.0;        ///< [mm]
     std::vector<Drawing::Element> elements;
 };
-
-/// Width of a column of blocks [mm].
-inline constexpr double ColumnWidth = 70.0;
 
 /// A block and the place of its upper left corner [mm].
 struct PlacedBlock {

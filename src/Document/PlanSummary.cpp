@@ -1,5 +1,7 @@
 #include "Document/PlanSummary.hpp"
 
+#include "Document/BlockText.hpp"
+#include "Document/PlanVerification.hpp"
 #include "Document/SheetText.hpp"
 #include "Simulation/PrintedValue.hpp"
 
@@ -9,44 +11,46 @@ namespace {
 using Drawing::TextWeight;
 using Simulation::FormatDecimal;
 
-constexpr double TitleHeight = 3.2;
-constexpr double LineHeight = 2.4;
-constexpr double RemarkHeight = 1.8;
-constexpr double LinePitch = 4.4;
-constexpr double Half = 0.5 * ColumnWidth;
-constexpr double Between = 4.0; // between the two halves of a line
+constexpr ParagraphStyle Title = {3.2, 4.8, TextWeight::Bold, Drawing::Black};
+constexpr ParagraphStyle Unverified = {2.8, 4.4, TextWeight::Normal, Drawing::Black};
+constexpr ParagraphStyle Line = {2.4, 4.2, TextWeight::Normal, Drawing::Black};
+constexpr ParagraphStyle Remark = {1.8, 3.2, TextWeight::Normal, Muted};
+constexpr double Blank = 1.8;     // paragraph without text
+constexpr double LinePitch = 4.4; // of the figures
+constexpr double Between = 4.0;   // between the two halves of a line
+constexpr double Descender = 0.7; // letters that reach below the last line
 
+constexpr const char* NoActivity = "sem atividade definida na Zona: sem verificação";
 constexpr const char* NarrowRemark =
     "Zona estreita: sem faixa de borda, todos os pontos entram nas estatísticas  [2]";
 
-// Adds lines of text from the foot of a block downwards, each `pitch` below the last.
-void AppendLines(SheetBlock& block, const std::vector<std::string>& lines, double height,
-                 double pitch, TextWeight weight, const Drawing::Color& color) {
-    for (const std::string& line : lines) {
-        block.height += pitch;
-        Drawing::TextRun run = SheetText(line, 0.0, -block.height, height, weight);
-        run.color = color;
-        block.elements.emplace_back(run);
-    }
+/// A figure beside its name.
+struct Figure {
+    std::string name;
+    std::string value;
+};
+
+// The name at the left and the value at the right of the stretch from `left` to `right`.
+void AppendFigure(SheetBlock& block, const Figure& figure, double left, double right) {
+    Drawing::TextRun name = SheetText(figure.name, left, -block.height, Line.height);
+    name.color = Muted;
+    Drawing::TextRun value =
+        SheetText(figure.value, right, -block.height, Line.height, TextWeight::Bold);
+    value.horizontal = Drawing::HorizontalAnchor::Right;
+    block.elements.emplace_back(name);
+    block.elements.emplace_back(value);
 }
 
-// A name at the left and its value at the right of the stretch from `left` to `right`.
-void AppendFigure(SheetBlock& block, const std::string& name, const std::string& value, double left,
-                  double right) {
-    Drawing::TextRun nameRun = SheetText(name, left, -block.height, LineHeight);
-    nameRun.color = Muted;
-    Drawing::TextRun valueRun =
-        SheetText(value, right, -block.height, LineHeight, TextWeight::Bold);
-    valueRun.horizontal = Drawing::HorizontalAnchor::Right;
-    block.elements.emplace_back(nameRun);
-    block.elements.emplace_back(valueRun);
+void AppendPair(SheetBlock& block, const Figure& first, const Figure& second) {
+    const double half = 0.5 * block.width;
+    block.height += LinePitch;
+    AppendFigure(block, first, 0.0, half - Between);
+    AppendFigure(block, second, half, block.width);
 }
 
-void AppendRule(SheetBlock& block) {
-    block.height += 1.8;
-    block.elements.emplace_back(Drawing::Polyline{
-        {{0.0, -block.height}, {ColumnWidth, -block.height}}, false, {0.18, Muted, {}}});
-    block.height += 0.8;
+void AppendWhole(SheetBlock& block, const Figure& figure) {
+    block.height += LinePitch;
+    AppendFigure(block, figure, 0.0, block.width);
 }
 
 std::string Lux(double value) {
@@ -57,43 +61,67 @@ std::string Metres(double value) {
     return FormatDecimal(value, 2) + " m";
 }
 
+void AppendTitle(SheetBlock& block, const PlanZone& zone) {
+    const std::string& activity = zone.verdict.activity;
+    block.height = -0.5 * Title.height; // the first line needs no space above it
+    AppendParagraph(block, activity.empty() ? zone.name : zone.name + "  —  " + activity, Title);
+    block.height += Blank;
+}
+
+void AppendVerdict(SheetBlock& block, const PlanZone& zone) {
+    AppendVerification(block, zone.verdict);
+    if (zone.verdict.activity.empty()) {
+        AppendParagraph(block,
+                        zone.name + ":   Em " + Lux(zone.statistics.mean) + "   U0 " +
+                            FormatDecimal(zone.statistics.uniformity, 2),
+                        Unverified);
+        AppendParagraph(block, NoActivity, Line);
+    }
+    AppendRecommendations(block, zone.verdict);
+}
+
+void AppendFigures(SheetBlock& block, const PlanZone& zone) {
+    const Simulation::PointStatistics& statistics = zone.statistics;
+    block.height += Blank;
+    AppendPair(block, {"Em", Lux(statistics.mean)},
+               {"U0", FormatDecimal(statistics.uniformity, 2)});
+    AppendPair(block, {"Emin", Lux(statistics.minimum)}, {"Emax", Lux(statistics.maximum)});
+    AppendWhole(block, {"Pontos", std::to_string(statistics.count)});
+    AppendWhole(block, {"Plano de trabalho", Metres(zone.workPlaneHeight)});
+    if (zone.grid.narrow) {
+        block.height += 1.0;
+        AppendParagraph(block, NarrowRemark, Remark);
+    } else {
+        AppendWhole(block, {"Faixa de borda", Metres(zone.borderBand)});
+    }
+}
+
+void AppendNotes(SheetBlock& block, const PlanVerdict& verdict) {
+    block.height += verdict.notes.empty() ? 0.0 : Blank;
+    for (const std::string& note : verdict.notes) {
+        AppendParagraph(block, note, Line);
+    }
+}
+
 } // namespace
 
 SheetBlock BuildSummaryBlock(const PlanZone& zone) {
     SheetBlock block;
-    block.height = -0.5 * TitleHeight; // the first line needs no space above it
-    AppendLines(block, WrapText(zone.name, ColumnWidth, TitleHeight, TextWeight::Bold), TitleHeight,
-                1.5 * TitleHeight, TextWeight::Bold, Drawing::Black);
-    AppendRule(block);
-
-    const Simulation::PointStatistics& statistics = zone.statistics;
-    block.height += LinePitch - 0.8;
-    AppendFigure(block, "Em", Lux(statistics.mean), 0.0, Half - Between);
-    AppendFigure(block, "U0", FormatDecimal(statistics.uniformity, 2), Half, ColumnWidth);
-    block.height += LinePitch;
-    AppendFigure(block, "Emin", Lux(statistics.minimum), 0.0, Half - Between);
-    AppendFigure(block, "Emax", Lux(statistics.maximum), Half, ColumnWidth);
-    block.height += LinePitch;
-    AppendFigure(block, "Pontos", std::to_string(statistics.count), 0.0, ColumnWidth);
-    block.height += LinePitch;
-    AppendFigure(block, "Plano de trabalho", Metres(zone.workPlaneHeight), 0.0, ColumnWidth);
-    if (zone.grid.narrow) {
-        block.height += 1.0;
-        AppendLines(block, WrapText(NarrowRemark, ColumnWidth, RemarkHeight), RemarkHeight,
-                    1.75 * RemarkHeight, TextWeight::Normal, Muted);
-    } else {
-        block.height += LinePitch;
-        AppendFigure(block, "Faixa de borda", Metres(zone.borderBand), 0.0, ColumnWidth);
-    }
-    block.height += 0.7; // letters that reach below the last line
+    const bool hasTable = !zone.verdict.rows.empty() || !zone.verdict.surfaces.empty();
+    block.width = hasTable ? VerificationWidth : ColumnWidth;
+    AppendTitle(block, zone);
+    AppendVerdict(block, zone);
+    AppendFigures(block, zone);
+    AppendNotes(block, zone.verdict);
+    AppendSurfaces(block, zone.verdict);
+    block.height += Descender;
     return block;
 }
 
 SheetBlock BuildNoteBlock(const std::string& note) {
     SheetBlock block;
-    AppendLines(block, WrapText(note, ColumnWidth, RemarkHeight), RemarkHeight, 1.75 * RemarkHeight,
-                TextWeight::Normal, Muted);
-    block.height += 0.7; // letters that reach below the last line
+    AppendParagraph(block, note, Remark);
+    block.height += Descender;
     return block;
 }
 

@@ -1,10 +1,10 @@
 #include "Document/ResultDocument.hpp"
 
 #include <cstddef>
-#include <initializer_list>
 #include <utility>
 
-#include "Catalog/Json.hpp"
+#include "Document/JsonParts.hpp"
+#include "Document/ZoneResultJson.hpp"
 
 namespace Merivane::Document {
 
@@ -13,27 +13,6 @@ namespace {
 using Catalog::JsonValue;
 
 constexpr int ResultFormat = 1;
-
-JsonValue Numbers(const std::vector<double>& values) {
-    JsonValue list = JsonValue::MakeArray();
-    list.items.reserve(values.size());
-    for (const double value : values) {
-        list.items.push_back(JsonValue::MakeNumber(value));
-    }
-    return list;
-}
-
-JsonValue Integer(std::int64_t value) {
-    return JsonValue::MakeNumber(static_cast<double>(value));
-}
-
-JsonValue Texts(const std::vector<std::string>& texts) {
-    JsonValue list = JsonValue::MakeArray();
-    for (const std::string& text : texts) {
-        list.items.push_back(JsonValue::MakeString(text));
-    }
-    return list;
-}
 
 JsonValue EngineJson(const Simulation::EngineSettings& engine) {
     JsonValue json;
@@ -135,7 +114,7 @@ JsonValue PlanesJson(const SceneDocument& document, const BuiltScene& built,
 
 JsonValue PointsJson(const BuiltScene& built, const Simulation::SimulationResult& result) {
     JsonValue list = JsonValue::MakeArray();
-    for (std::size_t i = 0; i < built.scene.points.size() && i < result.pointIlluminance.size() &&
+    for (std::size_t i = 0; i < built.pointCount && i < result.pointIlluminance.size() &&
                             i < result.pointDirectIlluminance.size();
          ++i) {
         const Simulation::ScenePoint& point = built.scene.points[i];
@@ -149,10 +128,21 @@ JsonValue PointsJson(const BuiltScene& built, const Simulation::SimulationResult
     return list;
 }
 
+JsonValue ZonesJson(const SceneDocument& document, const BuiltScene& built,
+                    const std::vector<ZoneAnalysis>& analyses, bool explained) {
+    JsonValue list = JsonValue::MakeArray();
+    for (std::size_t i = 0; i < analyses.size() && i < document.zones.size(); ++i) {
+        list.items.push_back(
+            ZoneResultJson(document.zones[i], analyses[i], built.scene, explained));
+    }
+    return list;
+}
+
 } // namespace
 
 std::string WriteResultDocument(const SceneDocument& document, const BuiltScene& built,
-                                const Simulation::SimulationResult& result, const RunRecord& run) {
+                                const Simulation::SimulationResult& result,
+                                const std::vector<ZoneAnalysis>& analyses, const RunRecord& run) {
     JsonValue json;
     json.Set("formato", Integer(ResultFormat));
     json.Set("nome", JsonValue::MakeString(document.name));
@@ -161,6 +151,8 @@ std::string WriteResultDocument(const SceneDocument& document, const BuiltScene&
     json.Set("segundos", JsonValue::MakeNumber(run.seconds));
     json.Set("avisos", Texts(run.notices));
     json.Set("niveis", Numbers(document.levels));
+    json.Set("norma", JsonValue::MakeString(Simulation::ReferenceStandardName(document.standard)));
+    json.Set("zonas", ZonesJson(document, built, analyses, run.explained));
     json.Set("planos", PlanesJson(document, built, result));
     json.Set("pontos", PointsJson(built, result));
     Catalog::JsonWriteOptions options;

@@ -9,8 +9,18 @@
 #include "Simulation/Geometry.hpp"
 #include "Simulation/LevelList.hpp"
 #include "Simulation/PointStatistics.hpp"
+#include "Simulation/Verification/Verification.hpp"
 
 namespace Merivane::Document {
+
+/// What the standard says of a Zone.
+struct PlanVerdict {
+    std::string activity; ///< empty: the Zone has none and is not verified
+    std::string standard; ///< name of the edition
+    std::vector<Simulation::VerificationRow> rows;
+    std::vector<std::string> notes;                    ///< on glare and screens, a paragraph each
+    std::vector<Simulation::VerificationRow> surfaces; ///< against their reference
+};
 
 /// One Zone of a floor with the values calculated on its work plane.
 struct PlanZone {
@@ -21,6 +31,7 @@ struct PlanZone {
     Simulation::PointStatistics statistics; ///< over the task area
     double workPlaneHeight = 0.75;          ///< above the Zone's floor [m]
     double borderBand = 0.5;                ///< width of the band out of the statistics [m]
+    PlanVerdict verdict;
 };
 
 /// A luminaire as its luminous opening stands in plan.

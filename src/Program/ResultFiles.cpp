@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "Document/ResultTable.hpp"
+#include "Document/TextColumns.hpp"
 #include "Drawing/PdfWriter.hpp"
 #include "Drawing/PngWriter.hpp"
 #include "Drawing/SvgWriter.hpp"
@@ -14,20 +15,12 @@ namespace Merivane::Program {
 
 namespace {
 
-/// Characters of a UTF-8 text, for aligning columns.
-std::size_t CharacterCount(const std::string& text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-    }));
-}
+/// Of the table that explains the observers' glare; a Zone of this name keeps it for its own.
+constexpr const char* ExplanationName = "ofuscamento";
 
-std::string PadRight(const std::string& text, std::size_t width) {
-    return text + std::string(width - std::min(width, CharacterCount(text)), ' ');
-}
-
-std::string PadLeft(const std::string& text, std::size_t width) {
-    return std::string(width - std::min(width, CharacterCount(text)), ' ') + text;
-}
+using Document::CharacterCount;
+using Document::PadLeft;
+using Document::PadRight;
 
 std::string StatisticsRow(const Simulation::ZoneResult& zone, std::size_t nameWidth) {
     const Simulation::PointStatistics& statistics = zone.statistics;
@@ -53,8 +46,8 @@ void TellPlanes(const std::vector<Simulation::ZoneResult>& zones) {
     }
 }
 
-void TellLoosePoints(const Simulation::SimulationResult& result) {
-    for (std::size_t i = 0; i < result.pointIlluminance.size(); ++i) {
+void TellLoosePoints(const Simulation::SimulationResult& result, std::size_t count) {
+    for (std::size_t i = 0; i < std::min(count, result.pointIlluminance.size()); ++i) {
         TellLine("Ponto " + std::to_string(i + 1) + ": " +
                  Simulation::FormatDecimal(result.pointIlluminance[i], 1) + " lx (luz direta " +
                  Simulation::FormatDecimal(result.pointDirectIlluminance[i], 1) + " lx)");
@@ -75,16 +68,20 @@ Document::PlanStyle PlanStyleOf(const SimulateArguments& arguments) {
     return style;
 }
 
-void BuildPlaneTables(const Document::BuiltScene& built, const Simulation::SimulationResult& result,
-                      std::vector<OutputFile>& files) {
+void BuildTables(const Document::BuiltScene& built, const Simulation::SimulationResult& result,
+                 const std::string& explanation, std::vector<OutputFile>& files) {
     std::vector<std::string> titles;
     for (const Simulation::SensorPlane& plane : built.scene.sensorPlanes) {
         titles.push_back(plane.name);
     }
+    titles.emplace_back(ExplanationName);
     const std::vector<std::string> names = Document::UniqueFileNames(titles, ".csv");
-    for (std::size_t i = 0; i < names.size(); ++i) {
+    for (std::size_t i = 0; i < built.scene.sensorPlanes.size(); ++i) {
         files.push_back({names[i], Document::WritePlaneTable(built.scene.sensorPlanes[i],
                                                              result.zones[i].illuminance)});
+    }
+    if (!explanation.empty()) {
+        files.push_back({names.back(), explanation});
     }
 }
 
@@ -105,11 +102,14 @@ bool BuildPlans(const std::vector<Document::FloorPlan>& plans, const Document::P
     return true;
 }
 
-void TellResults(const Simulation::SimulationResult& result, const Document::RunRecord& record,
-                 const std::string& folder, const std::vector<OutputFile>& files) {
+void TellValues(const Document::BuiltScene& built, const Simulation::SimulationResult& result) {
     TellPlanes(result.zones);
-    TellLoosePoints(result);
-    for (const std::string& notice : record.notices) {
+    TellLoosePoints(result, built.pointCount);
+}
+
+void TellClosing(const Document::RunRecord& record, const std::vector<std::string>& notices,
+                 const std::string& folder, const std::vector<OutputFile>& files) {
+    for (const std::string& notice : notices) {
         TellLine("Aviso: " + notice);
     }
     TellLine("Calculado em " + Simulation::FormatDecimal(record.seconds, 1) + " s com " +

@@ -4,10 +4,12 @@
 #include <vector>
 
 #include "Archicad/AddOnFolder.hpp"
+#include "Document/GlareExplanation.hpp"
 #include "Document/PlanAssembly.hpp"
 #include "Document/ResultDocument.hpp"
 #include "Document/SceneBuild.hpp"
 #include "Document/SceneDocument.hpp"
+#include "Document/ZoneAnalysis.hpp"
 #include "Program/Commands.hpp"
 #include "Program/Interrupt.hpp"
 #include "Program/Message.hpp"
@@ -16,6 +18,7 @@
 #include "Program/ResultFiles.hpp"
 #include "Program/Version.hpp"
 #include "Program/WorkFolder.hpp"
+#include "Program/ZoneReport.hpp"
 #include "Radiance/Installation.hpp"
 #include "Simulation/PrintedValue.hpp"
 #include "Simulation/Run/ReflectionEstimate.hpp"
@@ -36,6 +39,7 @@ struct SimulateRun {
     WorkFolder workFolder;
     Simulation::SimulationOptions options;
     Simulation::SimulationResult result;
+    std::vector<Document::ZoneAnalysis> analyses; ///< of the document's Zones, in order
     Document::RunRecord record;
 };
 
@@ -138,23 +142,65 @@ bool Calculate(SimulateRun& run) {
 void RecordRun(SimulateRun& run) {
     run.record.programVersion = Version;
     run.record.radianceVersion = run.installation.version;
+    run.record.explained = run.arguments.explain;
     run.record.notices = run.document.warnings;
+    run.record.notices.insert(run.record.notices.end(), run.built.notices.begin(),
+                              run.built.notices.end());
     const std::string warning = Simulation::ReflectionWarning(run.built.scene, run.options);
     if (!warning.empty()) {
         run.record.notices.push_back(warning);
     }
 }
 
+/// Tells what the values mean, Zone by Zone.
+bool Analyse(SimulateRun& run) {
+    for (std::size_t zone = 0; zone < run.document.zones.size(); ++zone) {
+        if (Interrupted()) {
+            return false;
+        }
+        run.analyses.push_back(Document::AnalyseZone(run.document, run.built, run.result, zone,
+                                                     run.arguments.explain));
+    }
+    return true;
+}
+
+std::string ExplanationTable(const SimulateRun& run) {
+    std::vector<Document::ExplainedRoom> rooms;
+    for (std::size_t i = 0; i < run.analyses.size(); ++i) {
+        rooms.push_back(
+            Document::ExplainZone(run.document.zones[i].name, run.analyses[i], run.built.scene));
+    }
+    return Document::WriteGlareExplanationTable(rooms);
+}
+
+bool BuildFiles(const SimulateRun& run, std::vector<OutputFile>& files, std::string& error) {
+    files.push_back(
+        {"resultado.json", Document::WriteResultDocument(run.document, run.built, run.result,
+                                                         run.analyses, run.record)});
+    BuildTables(run.built, run.result, run.arguments.explain ? ExplanationTable(run) : "", files);
+    return BuildPlans(Document::AssemblePlans(run.document, run.built, run.result, run.analyses,
+                                              run.record.notices),
+                      PlanStyleOf(run.arguments), files, error);
+}
+
+void Tell(const SimulateRun& run, const std::vector<OutputFile>& files) {
+    TellValues(run.built, run.result);
+    TellZones(run.document, run.analyses);
+    if (run.arguments.explain) {
+        TellExplanations(run.document, run.built, run.analyses);
+    }
+    std::vector<std::string> notices = run.record.notices;
+    for (const std::string& notice : AnalysisNotices(run.document, run.analyses)) {
+        notices.push_back(notice);
+    }
+    TellClosing(run.record, notices, run.arguments.outputFolder, files);
+}
+
 /// Draws and writes all results, and tells them.
 bool Deliver(SimulateRun& run) {
-    const std::string resultText =
-        Document::WriteResultDocument(run.document, run.built, run.result, run.record);
-    std::vector<OutputFile> files = {{"resultado.json", resultText}};
+    std::vector<OutputFile> files;
     std::string error;
-    BuildPlaneTables(run.built, run.result, files);
-    if (!BuildPlans(
-            Document::AssemblePlans(run.document, run.built, run.result, run.record.notices),
-            PlanStyleOf(run.arguments), files, error)) {
+    if (!BuildFiles(run, files, error)) {
         return RefuseWithFiles(run, error);
     }
     if (Interrupted()) {
@@ -164,18 +210,32 @@ bool Deliver(SimulateRun& run) {
         return RefuseWithFiles(run, error);
     }
     if (run.arguments.json) {
-        std::fputs(resultText.c_str(), stdout);
+        std::fputs(files.front().bytes.c_str(), stdout);
     } else if (!run.arguments.silent) {
-        TellResults(run.result, run.record, run.arguments.outputFolder, files);
+        Tell(run, files);
     }
     return true;
+}
+
+/// The exit status of a run whose results are written: where it was asked for, whether every Zone
+/// has what it requires.
+int Verdict(const SimulateRun& run) {
+    if (!run.arguments.verify) {
+        return StatusDone;
+    }
+    const std::string failing = FailingZones(run.document, run.analyses);
+    if (failing.empty()) {
+        return StatusDone;
+    }
+    TellError("não atende à norma: " + failing);
+    return StatusNotMet;
 }
 
 } // namespace
 
 int SimulateCommand(const SimulateArguments& arguments) {
     CatchInterrupts();
-    SimulateRun run{arguments, {}, {}, {}, {}, {}, {}, {}};
+    SimulateRun run{arguments, {}, {}, {}, {}, {}, {}, {}, {}};
     if (!ReadInput(run) || !FindRadiance(run)) {
         return StatusFailed;
     }
@@ -186,12 +246,12 @@ int SimulateCommand(const SimulateArguments& arguments) {
     }
     ChooseOptions(run);
     RecordRun(run);
-    const bool done = ProveRadiance(run) && Calculate(run) && Deliver(run);
+    const bool done = ProveRadiance(run) && Calculate(run) && Analyse(run) && Deliver(run);
     if (done || Interrupted()) {
         RemoveWorkFolder(run.workFolder);
     }
     if (done) {
-        return StatusDone;
+        return Verdict(run);
     }
     if (Interrupted()) {
         TellError("cálculo cancelado; nada foi gravado");

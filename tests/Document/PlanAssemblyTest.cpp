@@ -20,7 +20,11 @@ std::vector<FloorPlan> PlansOf(const std::string& text) {
         zone.statistics = TaskStatistics(plane.grid, zone.illuminance);
         result.zones.push_back(zone);
     }
-    return AssemblePlans(document, built, result, {"nota"});
+    std::vector<ZoneAnalysis> analyses;
+    for (std::size_t zone = 0; zone < document.zones.size(); ++zone) {
+        analyses.push_back(AnalyseZone(document, built, result, zone, false));
+    }
+    return AssemblePlans(document, built, result, analyses, {"nota"});
 }
 
 std::string Zone(const std::string& name, double floor, double height) {

@@ -96,6 +96,24 @@ TEST(ArrangeSheet, BlocksStandInColumnsClearOfThePlanAndOfEachOther) {
     }
 }
 
+TEST(ArrangeSheet, AColumnIsAsWideAsItsWidestBlock) {
+    std::vector<SheetBlock> blocks = {BlockOf(50), BlockOf(140), BlockOf(140), BlockOf(15)};
+    blocks[0].width = 40;
+    blocks[1].width = 108; // does not stand below the first on A4
+    blocks[2].width = 60;
+    blocks[3].width = 70; // stands below the third
+    const PlanSheet sheet = ArrangeSheet({0, 0, 1, 1}, blocks, 100.0);
+    EXPECT_EQ(sheet.width, 297.0);
+    const double right = sheet.titleArea.right;
+    const double gap = 7.0;
+    ASSERT_EQ(sheet.blocks.size(), 4U);
+    EXPECT_NEAR(sheet.blocks[3].corner.x, right - 70.0, 1e-9);
+    EXPECT_EQ(sheet.blocks[2].corner.x, sheet.blocks[3].corner.x);
+    EXPECT_NEAR(sheet.blocks[1].corner.x, right - 70.0 - gap - 108.0, 1e-9);
+    EXPECT_NEAR(sheet.blocks[0].corner.x, right - 70.0 - gap - 108.0 - gap - 40.0, 1e-9);
+    EXPECT_NEAR(sheet.planArea.right, sheet.blocks[0].corner.x - gap, 1e-9);
+}
+
 TEST(ArrangeSheet, ABlockHigherThanASheetGetsAHigherOne) {
     const PlanSheet sheet = ArrangeSheet({0, 0, 6, 4}, {BlockOf(300)}, 0.0);
     EXPECT_EQ(sheet.height, 420.0); // A2

@@ -17,7 +17,8 @@ struct MadeUp {
     SceneDocument document;
     BuiltScene built;
     Simulation::SimulationResult result;
-    RunRecord run{"0.1.0", "RADIANCE 6.1a", 1.5, {"um aviso"}};
+    std::vector<ZoneAnalysis> analyses;
+    RunRecord run{"0.1.0", "RADIANCE 6.1a", 1.5, {"um aviso"}, false};
 };
 
 MadeUp MakeUp() {
@@ -40,12 +41,15 @@ MadeUp MakeUp() {
     }
     made.result.pointIlluminance = {200.25};
     made.result.pointDirectIlluminance = {150.125};
+    // The observers at mid-wall, whose views stand behind the document's point.
+    made.result.pointIlluminance.resize(made.built.scene.points.size(), 120.0);
+    made.result.pointDirectIlluminance.resize(made.built.scene.points.size(), 20.0);
     made.result.success = true;
     return made;
 }
 
 std::string WriteMadeUp(const MadeUp& made) {
-    return WriteResultDocument(made.document, made.built, made.result, made.run);
+    return WriteResultDocument(made.document, made.built, made.result, made.analyses, made.run);
 }
 
 JsonValue ReadBack(const std::string& text) {
@@ -77,13 +81,14 @@ TEST(ResultDocument, TellsTheRun) {
     const JsonValue json = ReadBack(WriteMadeUp(MakeUp()));
     EXPECT_EQ(KeysOf(json),
               (std::vector<std::string>{"formato", "nome", "motor", "versoes", "segundos", "avisos",
-                                        "niveis", "planos", "pontos"}));
+                                        "niveis", "norma", "zonas", "planos", "pontos"}));
     EXPECT_EQ(json.NumberOr("formato", 0), 1.0);
     EXPECT_EQ(json.StringOr("nome", ""), "Projeto \"X\"");
     EXPECT_EQ(json.NumberOr("segundos", 0), 1.5);
     EXPECT_EQ(json.Find("versoes")->StringOr("vantoro", ""), "0.1.0");
     EXPECT_EQ(json.Find("versoes")->StringOr("radiance", ""), "RADIANCE 6.1a");
     EXPECT_EQ(json.Find("avisos")->items[0].text, "um aviso");
+    EXPECT_EQ(json.StringOr("norma", ""), "ABNT NBR ISO/CIE 8995-1:2013");
     EXPECT_EQ(NumbersOf(*json.Find("niveis")), (std::vector<double>{100, 200}));
     const JsonValue& engine = *json.Find("motor");
     EXPECT_EQ(engine.StringOr("perfil", ""), "Projeto");

@@ -1,0 +1,123 @@
+#include "Document/PlanVerification.hpp"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "Document/BlockText.hpp"
+#include "Document/SheetText.hpp"
+
+namespace Merivane::Document {
+namespace {
+
+using Drawing::TextWeight;
+using Simulation::VerificationKind;
+using Simulation::VerificationRow;
+
+constexpr double RowHeight = 2.4;
+constexpr double RowPitch = 4.2;
+constexpr double LeastHeight = 1.4; // of a cell that is too long for its column
+constexpr Drawing::Color Met{0.05, 0.45, 0.15, 1.0};
+constexpr Drawing::Color Failed{0.75, 0.08, 0.08, 1.0};
+
+constexpr const char* MissingRemark =
+    "Itens SEM DADO não entram no resultado: complete-os (ver Folha de Trabalho).";
+
+struct TabStop {
+    double left;
+    double width;
+};
+
+// Wide enough for the longest criterion, "12345 cd/m²", "≤ 1000 cd/m²" and "NÃO ATENDE".
+constexpr std::array<TabStop, 4> Stops = {{{0.0, 36.0}, {38.0, 22.0}, {62.0, 23.0}, {86.5, 21.5}}};
+
+using Cells = std::array<std::string_view, 4>;
+
+void AppendCells(SheetBlock& block, const Cells& cells, TextWeight weight,
+                 const Drawing::Color& lastColor) {
+    block.height += RowPitch;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        Drawing::TextRun run = FittingText(cells[i], Stops[i].left, -block.height, Stops[i].width,
+                                           {RowHeight, LeastHeight}, weight);
+        run.color = i + 1 == cells.size() ? lastColor : Drawing::Black;
+        block.elements.emplace_back(run);
+    }
+}
+
+void AppendTable(SheetBlock& block, const std::string& heading,
+                 const std::vector<VerificationRow>& rows) {
+    block.height += 1.0;
+    AppendParagraph(block, heading, {RowHeight, RowPitch, TextWeight::Bold, Drawing::Black});
+    AppendCells(block, {"Critério", "Calculado", "Exigido", "Situação"}, TextWeight::Bold,
+                Drawing::Black);
+    AppendRule(block);
+    for (const VerificationRow& row : rows) {
+        const std::string state = Simulation::RowState(row);
+        AppendCells(block, {row.criterion, row.calculated, row.required, state}, TextWeight::Normal,
+                    StateColor(row));
+    }
+    AppendRule(block);
+}
+
+std::vector<VerificationRow> RowsOf(const std::vector<VerificationRow>& rows,
+                                    VerificationKind kind) {
+    std::vector<VerificationRow> chosen;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(chosen),
+                 [kind](const VerificationRow& row) { return row.kind == kind; });
+    return chosen;
+}
+
+// The overall result stands below the states.
+void AppendResult(SheetBlock& block, bool passes) {
+    block.height += RowPitch + 0.6;
+    block.elements.emplace_back(
+        SheetText("RESULTADO", Stops.front().left, -block.height, RowHeight, TextWeight::Bold));
+    Drawing::TextRun state =
+        FittingText(passes ? "ATENDE" : "NÃO ATENDE", Stops.back().left, -block.height,
+                    Stops.back().width, {RowHeight, LeastHeight}, TextWeight::Bold);
+    state.color = passes ? Met : Failed;
+    block.elements.emplace_back(state);
+}
+
+} // namespace
+
+Drawing::Color StateColor(const VerificationRow& row) {
+    if (!row.hasData) {
+        return Drawing::Black;
+    }
+    return row.passes ? Met : Failed;
+}
+
+void AppendVerification(SheetBlock& block, const PlanVerdict& verdict) {
+    if (verdict.rows.empty()) {
+        return;
+    }
+    const std::vector<VerificationRow> required =
+        RowsOf(verdict.rows, VerificationKind::Requirement);
+    const bool passes = Simulation::VerificationPasses(verdict.rows);
+    AppendTable(block, "Verificação  —  " + verdict.standard, required);
+    AppendResult(block, passes);
+    const bool missing = std::any_of(required.begin(), required.end(),
+                                     [](const VerificationRow& row) { return !row.hasData; });
+    if (passes && missing) {
+        AppendParagraph(block, MissingRemark, {1.8, 3.2, TextWeight::Normal, Muted});
+    }
+}
+
+void AppendRecommendations(SheetBlock& block, const PlanVerdict& verdict) {
+    const std::vector<VerificationRow> rows =
+        RowsOf(verdict.rows, VerificationKind::Recommendation);
+    if (!rows.empty()) {
+        block.height += 1.0;
+        AppendTable(block, "Recomendações  —  4.2 e 4.8 (não entram no resultado)", rows);
+    }
+}
+
+void AppendSurfaces(SheetBlock& block, const PlanVerdict& verdict) {
+    if (!verdict.surfaces.empty()) {
+        block.height += 1.0;
+        AppendTable(block, "Superfícies  —  EN 12464-1 (referência)", verdict.surfaces);
+    }
+}
+
+} // namespace Merivane::Document

@@ -1,0 +1,149 @@
+#include "Program/ZoneReport.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "Document/GlareSummary.hpp"
+#include "Document/TextColumns.hpp"
+#include "Program/Message.hpp"
+
+namespace Merivane::Program {
+
+namespace {
+
+using Document::ZoneAnalysis;
+using Simulation::VerificationKind;
+using Simulation::VerificationRow;
+
+using Cells = std::array<std::string, 4>;
+using Widths = std::array<std::size_t, 4>;
+
+const Cells Head = {"Critério", "Calculado", "Exigido", "Situação"};
+
+Cells CellsOf(const VerificationRow& row) {
+    return {row.criterion, row.calculated, row.required, Simulation::RowState(row)};
+}
+
+void Widen(Widths& widths, const Cells& cells) {
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        widths[i] = std::max(widths[i], Document::CharacterCount(cells[i]));
+    }
+}
+
+/// The columns of all Zones stand below each other.
+Widths ColumnWidths(const std::vector<ZoneAnalysis>& analyses) {
+    Widths widths{};
+    Widen(widths, Head);
+    for (const ZoneAnalysis& analysis : analyses) {
+        for (const VerificationRow& row : analysis.verification.rows) {
+            Widen(widths, CellsOf(row));
+        }
+    }
+    return widths;
+}
+
+std::string TableLine(const Cells& cells, const Widths& widths) {
+    return "  " + Document::PadRight(cells[0], widths[0] + 2) +
+           Document::PadLeft(cells[1], widths[1]) + "  " + Document::PadLeft(cells[2], widths[2]) +
+           "  " + cells[3];
+}
+
+void TellRows(const std::vector<VerificationRow>& rows, VerificationKind kind,
+              const Widths& widths) {
+    for (const VerificationRow& row : rows) {
+        if (row.kind == kind) {
+            TellLine(TableLine(CellsOf(row), widths));
+        }
+    }
+}
+
+bool Holds(const std::vector<VerificationRow>& rows, VerificationKind kind) {
+    return std::any_of(rows.begin(), rows.end(),
+                       [kind](const VerificationRow& row) { return row.kind == kind; });
+}
+
+std::string ActivityText(const Document::DocumentZone& zone, const Simulation::TaskRow& task) {
+    return task.activity + " (" + task.id + (zone.task.byName ? ", sugerida pelo nome)" : ")");
+}
+
+void TellVerification(const ZoneAnalysis& analysis, const Widths& widths) {
+    const std::vector<VerificationRow>& rows = analysis.verification.rows;
+    TellLine(TableLine(Head, widths));
+    TellRows(rows, VerificationKind::Requirement, widths);
+    TellLine("  RESULTADO: " + Document::OverallState(analysis));
+    if (Holds(rows, VerificationKind::Recommendation)) {
+        TellLine("  Recomendações (não entram no resultado)");
+        TellRows(rows, VerificationKind::Recommendation, widths);
+    }
+}
+
+void TellZone(const Document::DocumentZone& zone, const ZoneAnalysis& analysis,
+              const Widths& widths) {
+    TellLine("");
+    if (analysis.task == nullptr) {
+        TellLine(zone.name);
+        TellLine("  sem atividade definida na Zona: sem verificação");
+    } else {
+        TellLine(zone.name + "  —  " + ActivityText(zone, *analysis.task));
+        TellVerification(analysis, widths);
+    }
+    for (const std::string& line : Document::GlareSummary(analysis)) {
+        TellLine("  " + line);
+    }
+}
+
+} // namespace
+
+void TellZones(const Document::SceneDocument& document, const std::vector<ZoneAnalysis>& analyses) {
+    if (analyses.empty()) {
+        return;
+    }
+    const Widths widths = ColumnWidths(analyses);
+    const bool verified =
+        std::any_of(analyses.begin(), analyses.end(),
+                    [](const ZoneAnalysis& analysis) { return analysis.task != nullptr; });
+    if (verified) {
+        TellLine("");
+        TellLine("Verificação  —  " + Simulation::ReferenceStandardName(document.standard));
+    }
+    for (std::size_t i = 0; i < analyses.size(); ++i) {
+        TellZone(document.zones[i], analyses[i], widths);
+    }
+    TellLine("");
+}
+
+void TellExplanations(const Document::SceneDocument& document, const Document::BuiltScene& built,
+                      const std::vector<ZoneAnalysis>& analyses) {
+    for (std::size_t i = 0; i < analyses.size(); ++i) {
+        for (const std::string& line : Document::GlareExplanationLines(
+                 Document::ExplainZone(document.zones[i].name, analyses[i], built.scene))) {
+            TellLine(line);
+        }
+        TellLine("");
+    }
+}
+
+std::vector<std::string> AnalysisNotices(const Document::SceneDocument& document,
+                                         const std::vector<ZoneAnalysis>& analyses) {
+    std::vector<std::string> notices;
+    for (std::size_t i = 0; i < analyses.size(); ++i) {
+        for (const std::string& warning : analyses[i].glare.warnings) {
+            notices.push_back("Zona \"" + document.zones[i].name + "\": " + warning);
+        }
+    }
+    return notices;
+}
+
+std::string FailingZones(const Document::SceneDocument& document,
+                         const std::vector<ZoneAnalysis>& analyses) {
+    std::string names;
+    for (std::size_t i = 0; i < analyses.size(); ++i) {
+        if (!Document::MeetsRequirements(analyses[i])) {
+            names += (names.empty() ? "\"" : ", \"") + document.zones[i].name + "\"";
+        }
+    }
+    return names;
+}
+
+} // namespace Merivane::Program

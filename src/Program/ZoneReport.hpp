@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Document/SceneBuild.hpp"
+#include "Document/SceneDocument.hpp"
+#include "Document/ZoneAnalysis.hpp"
+
+namespace Merivane::Program {
+
+/// Writes what the standard says of every Zone to standard output: its rows of verification, the
+/// result, the glare. `analyses` are those of the document's Zones, in order.
+void TellZones(const Document::SceneDocument& document,
+               const std::vector<Document::ZoneAnalysis>& analyses);
+
+/// Writes every observer's glare, luminaire by luminaire, to standard output.
+void TellExplanations(const Document::SceneDocument& document, const Document::BuiltScene& built,
+                      const std::vector<Document::ZoneAnalysis>& analyses);
+
+/// What is worth a warning in the analysis of the Zones, each sentence with its Zone's name.
+std::vector<std::string> AnalysisNotices(const Document::SceneDocument& document,
+                                         const std::vector<Document::ZoneAnalysis>& analyses);
+
+/// Names in quotation marks of the Zones with a required row that fails, parted by commas; empty
+/// when there is none.
+std::string FailingZones(const Document::SceneDocument& document,
+                         const std::vector<Document::ZoneAnalysis>& analyses);
+
+} // namespace Merivane::Program
