@@ -41,7 +41,7 @@ std::size_t FindModel(const PlacedLuminaire& light, std::vector<OpenModel>& mode
 // Luminaires of one model are often numbered ("Painel 1"): then none of their names is the model's.
 std::string ModelName(const OpenModel& model) {
     const SceneLuminaire& first = *model.first;
-    const std::string typeName = Photometry::TypeKeyName(first.typeKey);
+    std::string typeName = Photometry::TypeKeyName(first.typeKey);
     if (!typeName.empty() && (!model.oneName || first.displayName.empty())) {
         return typeName;
     }

@@ -64,10 +64,12 @@ void RateModel(const SceneLuminaire& sample, const ZoneSpace& zone, const Reflec
     if (model.omission != TabularOmission::None) {
         return;
     }
-    const auto [low, high] = OuterBounds(zone.polygon);
+    const Bounds2D box = OuterBounds(zone.polygon);
+    const double sizeX = box.maximum.x - box.minimum.x;
+    const double sizeY = box.maximum.y - box.minimum.y;
     const auto read = [&](const GlareOptions& options) {
-        return TabularForZone(sample, high.x - low.x, high.y - low.y, model.height, room.ceiling,
-                              room.walls, options);
+        return TabularForZone(sample, sizeX, sizeY, model.height, room.ceiling, room.walls,
+                              options);
     };
     model.tabular = read(AsTheTables);
     model.referenceUgr = ReferenceRoomUgr(sample, model.height, AsTheTables);
