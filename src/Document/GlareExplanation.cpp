@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "Document/JsonParts.hpp"
 #include "Document/TextColumns.hpp"
 #include "Simulation/PrintedValue.hpp"
 
@@ -86,8 +87,8 @@ double ShareOf(const GlareTerm& term, double sum) {
 }
 
 const ExplainedLight& LightOf(const ExplainedRoom& room, const GlareTerm& term) {
-    static const ExplainedLight unknown;
-    return term.luminaire < room.lights.size() ? room.lights[term.luminaire] : unknown;
+    static const ExplainedLight Unknown;
+    return term.luminaire < room.lights.size() ? room.lights[term.luminaire] : Unknown;
 }
 
 /// What the last column says.
@@ -197,14 +198,6 @@ void AppendObserver(const ExplainedRoom& room, const ExplainedObserver& seen, st
     }
 }
 
-JsonValue Numbers(std::initializer_list<double> values) {
-    JsonValue list = JsonValue::MakeArray();
-    for (const double value : values) {
-        list.items.push_back(JsonValue::MakeNumber(value));
-    }
-    return list;
-}
-
 JsonValue RowJson(const ExplainedLight& light, const GlareTerm& term, double sum) {
     JsonValue json;
     json.Set("luminaria", JsonValue::MakeNumber(static_cast<double>(term.luminaire + 1)));
@@ -215,7 +208,7 @@ JsonValue RowJson(const ExplainedLight& light, const GlareTerm& term, double sum
         json.Set(column.key, value ? JsonValue::MakeNumber(*value) : JsonValue());
     }
     const bool counts = term.omission == GlareOmission::None;
-    json.Set("parte", counts ? JsonValue::MakeNumber(ShareOf(term, sum)) : JsonValue());
+    json.Set("parte", NumberOrNull(counts, ShareOf(term, sum)));
     json.Set("fontePequena", JsonValue::MakeBool(term.smallSource));
     json.Set("motivo",
              counts ? JsonValue() : JsonValue::MakeString(GlareOmissionText(term.omission)));
@@ -230,14 +223,14 @@ JsonValue ObserverJson(const ExplainedRoom& room, const ExplainedObserver& seen)
     json.Set("nome", JsonValue::MakeString(observer.label));
     json.Set("posicao", Numbers({observer.x, observer.y, observer.z}));
     json.Set("visada", Numbers({observer.dx, observer.dy}));
-    json.Set("UGR", result.valid ? JsonValue::MakeNumber(result.ugr) : JsonValue());
-    json.Set("Lb", result.valid ? JsonValue::MakeNumber(result.background) : JsonValue());
+    json.Set("UGR", NumberOrNull(result.valid, result.ugr));
+    json.Set("Lb", NumberOrNull(result.valid, result.background));
     json.Set("soma", JsonValue::MakeNumber(sum));
-    json.Set("naSoma", JsonValue::MakeNumber(result.sources));
-    json.Set("fontesPequenas", JsonValue::MakeNumber(result.smallSources));
-    json.Set("fontesGrandes", JsonValue::MakeNumber(result.largeSources));
-    json.Set("semArea", JsonValue::MakeNumber(result.withoutArea));
-    json.Set("foraDoCampo", JsonValue::MakeNumber(result.outOfField));
+    json.Set("naSoma", Integer(result.sources));
+    json.Set("fontesPequenas", Integer(result.smallSources));
+    json.Set("fontesGrandes", Integer(result.largeSources));
+    json.Set("semArea", Integer(result.withoutArea));
+    json.Set("foraDoCampo", Integer(result.outOfField));
     JsonValue rows = JsonValue::MakeArray();
     for (const GlareTerm& term : seen.terms) {
         rows.items.push_back(RowJson(LightOf(room, term), term, sum));

@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <utility>
 
-#include "Document/ShownText.hpp"
 #include "Document/TextColumns.hpp"
 #include "Photometry/OpeningCodes.hpp"
 #include "Photometry/PhotometricQuantities.hpp"
@@ -14,6 +13,7 @@
 #include "Simulation/Glare/RoomBackground.hpp"
 #include "Simulation/LuminousOpening.hpp"
 #include "Simulation/PrintedValue.hpp"
+#include "Text/ShownText.hpp"
 
 namespace Merivane::Document {
 
@@ -68,7 +68,7 @@ std::string ProductText(const IesReport& file) {
     for (const std::string& part : {Photometry::FindKeyword(file.file, "MANUFAC"),
                                     Photometry::FindKeyword(file.file, "LUMCAT"),
                                     std::filesystem::path(file.fileName).filename().string()}) {
-        product += (part.empty() || product.empty() ? "" : " · ") + ShownText(part);
+        product += (part.empty() || product.empty() ? "" : " · ") + Text::ShownText(part);
     }
     return product;
 }
@@ -150,26 +150,10 @@ std::string ValueRow(const UgrReport& report, std::size_t room) {
 
 // JSON.
 
-JsonValue Texts(const std::vector<std::string>& texts) {
-    JsonValue list = JsonValue::MakeArray();
-    for (const std::string& text : texts) {
-        list.items.push_back(JsonValue::MakeString(text));
-    }
-    return list;
-}
-
-template <typename Values> JsonValue Numbers(const Values& values) {
-    JsonValue list = JsonValue::MakeArray();
-    for (const double value : values) {
-        list.items.push_back(JsonValue::MakeNumber(value));
-    }
-    return list;
-}
-
 template <typename Rows> JsonValue NumberRows(const Rows& rows) {
     JsonValue list = JsonValue::MakeArray();
     for (const auto& row : rows) {
-        list.items.push_back(Numbers(row));
+        list.items.push_back(Numbers({row.begin(), row.end()}));
     }
     return list;
 }
@@ -177,7 +161,7 @@ template <typename Rows> JsonValue NumberRows(const Rows& rows) {
 JsonValue RoomsJson() {
     JsonValue list = JsonValue::MakeArray();
     for (const UgrRoomSize& room : StandardRooms) {
-        list.items.push_back(Numbers(std::array{room.x, room.y}));
+        list.items.push_back(Numbers({room.x, room.y}));
     }
     return list;
 }
@@ -185,7 +169,7 @@ JsonValue RoomsJson() {
 JsonValue ReflectancesJson() {
     JsonValue list = JsonValue::MakeArray();
     for (const ReflectanceSet& set : ReflectanceSets) {
-        list.items.push_back(Numbers(std::array{set.ceiling, set.walls, set.floor}));
+        list.items.push_back(Numbers({set.ceiling, set.walls, set.floor}));
     }
     return list;
 }
@@ -200,8 +184,7 @@ void SetTable(const UgrReport& report, JsonValue& json) {
     json.Set("transversal", NumberRows(report.table.crosswise));
     json.Set("longitudinal", NumberRows(report.table.lengthwise));
     json.Set("referencia", JsonValue::MakeNumber(report.referenceUgr));
-    json.Set("fontePequena",
-             report.isSmall ? JsonValue::MakeNumber(report.smallSourceUgr) : JsonValue());
+    json.Set("fontePequena", NumberOrNull(report.isSmall, report.smallSourceUgr));
 }
 
 } // namespace
@@ -230,9 +213,9 @@ UgrReport BuildUgrReport(const IesReport& file, double height) {
         return report;
     }
     report.photometry = file.file;
-    report.luminaire = ShownText(Photometry::FindKeyword(file.file, "LUMINAIRE"));
+    report.luminaire = Text::ShownText(Photometry::FindKeyword(file.file, "LUMINAIRE"));
     if (report.luminaire.empty()) {
-        report.luminaire = ShownText(std::filesystem::path(file.fileName).stem().string());
+        report.luminaire = Text::ShownText(std::filesystem::path(file.fileName).stem().string());
     }
     report.product = ProductText(file);
     report.height = height;

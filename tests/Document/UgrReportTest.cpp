@@ -106,7 +106,8 @@ TEST(UgrReport, ASmallSourceHasAValueOfItsOwn) {
     EXPECT_LT(under.smallSourceUgr, under.referenceUgr);
     EXPECT_EQ(UgrReportJson(under).NumberOr("fontePequena", 0), under.smallSourceUgr);
 
-    const UgrReport at = ReportOf(OpeningIes("0.05 0.1 0"));
+    // 0.005 m2 to the last digit.
+    const UgrReport at = ReportOf(OpeningIes("0.005 1 0"));
     EXPECT_FALSE(at.isSmall);
     EXPECT_EQ(at.smallSourceUgr, 0.0);
     EXPECT_EQ(SmallSourceNote(at), "");
