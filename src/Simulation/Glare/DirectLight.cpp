@@ -148,8 +148,9 @@ double LightOnPatch(const PlacedLuminaire& luminaire, const Patch& patch) {
     }
     double sum = 0.0;
     for (int k = 0; k < NearSamples * NearSamples; ++k) {
+        const int row = k / NearSamples;
         const double u = (2.0 * (k % NearSamples) + 1.0) / NearSamples - 1.0;
-        const double v = (2.0 * (k / NearSamples) + 1.0) / NearSamples - 1.0;
+        const double v = (2.0 * row + 1.0) / NearSamples - 1.0;
         sum += LightOnPoint(luminaire, Moved(patch.center, patch.halfU, u, patch.halfV, v),
                             patch.normal);
     }

@@ -27,6 +27,7 @@ std::vector<std::array<double, 4>> RoomBackgrounds(const UgrRoom& room,
     const MirrorParts irradiance =
         DirectIrradiance(transport, grid, BuildOffsetLight(cut, grid, grid.nx, grid.ny));
     std::vector<RadiosityCase> cases;
+    cases.reserve(sets.size());
     for (const ReflectanceSet& set : sets) {
         cases.push_back({irradiance, set});
     }

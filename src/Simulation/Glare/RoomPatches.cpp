@@ -148,8 +148,9 @@ double PointToPatch(const Point3D& point, const Point3D& normal, const Patch& pa
     const int n = 16.0 * halves > Dot(to, to) ? NearParts : 1;
     double sum = 0.0;
     for (int k = 0; k < n * n; ++k) {
+        const int row = k / n;
         const double u = (2.0 * (k % n) + 1.0) / n - 1.0;
-        const double v = (2.0 * (k / n) + 1.0) / n - 1.0;
+        const double v = (2.0 * row + 1.0) / n - 1.0;
         const Point3D d = {to.x + u * patch.halfU.x + v * patch.halfV.x,
                            to.y + u * patch.halfU.y + v * patch.halfV.y,
                            to.z + u * patch.halfU.z + v * patch.halfV.z};

@@ -44,9 +44,11 @@ Simulation::SceneLuminaire SkewLuminaire() {
     return Skew(0.0);
 }
 
-Simulation::SceneLuminaire TurnedSkewLuminaire() {
-    Simulation::SceneLuminaire luminaire = Skew(90.0);
-    std::swap(luminaire.photometry.width, luminaire.photometry.length);
+Simulation::SceneLuminaire TurnedSkewLuminaire(int quarters) {
+    Simulation::SceneLuminaire luminaire = Skew(90.0 * quarters);
+    if (quarters % 2 != 0) {
+        std::swap(luminaire.photometry.width, luminaire.photometry.length);
+    }
     return luminaire;
 }
 

@@ -12,8 +12,8 @@ Simulation::SceneLuminaire SkewLuminaire();
 /// The same in every plane, none above the horizontal, an opening of 0.6 x 0.6 m.
 Simulation::SceneLuminaire EvenLuminaire();
 
-/// `SkewLuminaire` turned by 90 degrees about its axis, by its table and opening alone.
-Simulation::SceneLuminaire TurnedSkewLuminaire();
+/// `SkewLuminaire` turned about its axis by so many quarters, by its table and opening alone.
+Simulation::SceneLuminaire TurnedSkewLuminaire(int quarters);
 
 /// A room of `x` by `y` [m] with H [m], reflectances 0.7 / 0.5 / 0.2.
 Simulation::UgrRoom RoomOf(double x, double y, double height, bool crosswise = false);

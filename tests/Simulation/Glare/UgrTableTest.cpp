@@ -65,13 +65,26 @@ TEST(UgrTable, AgreesWithThePlainAlgorithmInASmallRoom) {
 TEST(UgrTable, SwapsItsHalvesForALuminaireTurnedByAQuarter) {
     const UgrRoom lengthwise = RoomOf(2, 3, 1);
     const UgrRoom crosswise = RoomOf(2, 3, 1, true);
-    const auto turned = EvaluateRoom(Tests::TurnedSkewLuminaire(), lengthwise, Table);
+    const auto turned = EvaluateRoom(Tests::TurnedSkewLuminaire(1), lengthwise, Table);
     const auto across = EvaluateRoom(SkewLuminaire(), crosswise, Table);
     const auto along = EvaluateRoom(SkewLuminaire(), lengthwise, Table);
     for (std::size_t k = 0; k < 4; ++k) {
         EXPECT_NEAR(turned[k].ugr, across[k].ugr, 1e-9);
         EXPECT_GT(std::abs(along[k].ugr - across[k].ugr), 0.1);
     }
+}
+
+// Half a turn swaps the observers who face each other.
+TEST(UgrTable, HasTheWorseOfBothEnds) {
+    const auto ends = EvaluateRoom(SkewLuminaire(), RoomOf(4, 4, 2), Table);
+    EXPECT_GT(std::abs(ends[0].ugr - ends[1].ugr), 0.1);
+    const UgrTableValues one = UgrTable(SkewLuminaire(), 2.0, Table);
+    const UgrTableValues other = UgrTable(Tests::TurnedSkewLuminaire(2), 2.0, Table);
+    for (std::size_t row = 0; row < one.crosswise.size(); ++row) {
+        EXPECT_NEAR(one.crosswise[row][0], other.crosswise[row][0], 1e-5) << row;
+        EXPECT_NEAR(one.lengthwise[row][0], other.lengthwise[row][0], 1e-5) << row;
+    }
+    EXPECT_NEAR(one.lengthwise[0][0], std::max(ends[0].ugr, ends[1].ugr), 1e-5);
 }
 
 // A beam along C0: sight along C0-C180 looks into it.
