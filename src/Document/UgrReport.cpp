@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "Document/JsonParts.hpp"
 #include "Document/TextColumns.hpp"
 #include "Photometry/OpeningCodes.hpp"
 #include "Photometry/PhotometricQuantities.hpp"
