@@ -13,9 +13,9 @@
 #include "Document/ResultTable.hpp"
 #include "Document/SceneBuild.hpp"
 #include "Document/SceneDocument.hpp"
-#include "Document/ShownText.hpp"
 #include "Document/ZoneAnalysis.hpp"
 #include "Simulation/PolygonGeometry.hpp"
+#include "Text/ShownText.hpp"
 
 using namespace Merivane;
 
@@ -61,7 +61,7 @@ void BuildAll(const Document::SceneDocument& document) {
     Document::BuiltScene built;
     std::string error;
     if (!Document::BuildScene(document, built, error)) {
-        Require(!error.empty() && Document::IsPlainText(error));
+        Require(!error.empty() && Text::IsPlainText(error));
         return;
     }
     Require(built.planes.size() == built.scene.sensorPlanes.size());
@@ -89,7 +89,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Document::SceneDocument document;
     std::string error;
     if (!Document::ParseSceneDocument(text, LoadIes, document, error)) {
-        Require(!error.empty() && Document::IsPlainText(error));
+        Require(!error.empty() && Text::IsPlainText(error));
         return 0;
     }
     if (IsSmall(document)) {

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "Document/SceneFields.hpp"
-#include "Document/ShownText.hpp"
 #include "Simulation/Verification/TaskSearch.hpp"
+#include "Text/ShownText.hpp"
 
 namespace Merivane::Document {
 
@@ -27,7 +27,7 @@ FieldReader IntoActivity(DocumentZone& zone) {
         if (zone.task.byName) {
             id = Simulation::SuggestTaskId(zone.name);
         } else if (Simulation::FindTask(id) == nullptr) {
-            return Refuse(place, "a norma não tem a atividade " + QuotedText(id) + TableHint,
+            return Refuse(place, "a norma não tem a atividade " + Text::QuotedText(id) + TableHint,
                           error);
         }
         zone.task.requirement = Simulation::RequirementFromTask(id);

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <utility>
 
-#include "Document/ShownText.hpp"
 #include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"
 #include "Photometry/OpeningCodes.hpp"
@@ -13,6 +12,7 @@
 #include "Simulation/PrintedValue.hpp"
 #include "Text/FileBytes.hpp"
 #include "Text/Number.hpp"
+#include "Text/ShownText.hpp"
 #include "Text/Utf8.hpp"
 
 namespace Merivane::Document {
@@ -48,7 +48,7 @@ std::string ShownLines(std::string_view value) {
     std::string shown;
     for (std::size_t start = 0; start <= value.size();) {
         const std::size_t end = std::min(value.find('\n', start), value.size());
-        shown += (start > 0 ? "\n" : "") + ShownText(value.substr(start, end - start));
+        shown += (start > 0 ? "\n" : "") + Text::ShownText(value.substr(start, end - start));
         start = end + 1;
     }
     return shown;
@@ -93,7 +93,7 @@ std::string AnglesText(const std::vector<double>& angles) {
 
 std::string TiltText(const IesFile& file) {
     if (file.tiltMode == 2) {
-        return "arquivo " + QuotedText(file.tiltFile);
+        return "arquivo " + Text::QuotedText(file.tiltFile);
     }
     return file.tiltMode == 0 ? "nenhum"
                               : std::to_string(file.tiltAngles.size()) + " ângulos no arquivo";

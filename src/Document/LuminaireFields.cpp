@@ -2,12 +2,12 @@
 #include <utility>
 
 #include "Document/SceneFields.hpp"
-#include "Document/ShownText.hpp"
 #include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"
 #include "Photometry/LuminaireIdentity.hpp"
 #include "Photometry/LuminaireTypeKey.hpp"
 #include "Photometry/OpeningCodes.hpp"
+#include "Text/ShownText.hpp"
 
 namespace Merivane::Document {
 
@@ -31,7 +31,7 @@ void NormaliseHeader(IesFile& file) {
 }
 
 std::string ReaderWords(const std::string& words) {
-    return ShownText(Photometry::NormaliseIesText(words));
+    return Text::ShownText(Photometry::NormaliseIesText(words));
 }
 
 /// The file of a path, read when it is met first; null with `error` set when it is refused.
@@ -68,7 +68,7 @@ const IesFile* FindIes(const Place& place, const std::string& path, IesLibrary& 
 /// The first line of a header value, fit to be shown.
 std::string HeaderText(const IesFile& file, std::string_view key) {
     const std::string value = FindKeyword(file, key);
-    return ShownText(value.substr(0, value.find('\n')));
+    return Text::ShownText(value.substr(0, value.find('\n')));
 }
 
 /// Identity as the header of the file tells it, where the document does not.

@@ -2,10 +2,10 @@
 #include <array>
 
 #include "Document/SceneFields.hpp"
-#include "Document/ShownText.hpp"
 #include "Document/SurfacePlane.hpp"
 #include "Simulation/GlassTransmissivity.hpp"
 #include "Text/Number.hpp"
+#include "Text/ShownText.hpp"
 
 namespace Merivane::Document {
 
@@ -130,8 +130,8 @@ bool NameMaterials(const Place& materialList, const std::vector<SceneMaterial>& 
             const Place material{&materialList.value->items[i], &materialList, {}, i};
             const Place name{material.value->Find("nome"), &material, "nome", 0};
             return Refuse(name,
-                          "o nome " + QuotedText(materials[i].name) + " já é o de materiais[" +
-                              std::to_string(entry->second) + "]",
+                          "o nome " + Text::QuotedText(materials[i].name) +
+                              " já é o de materiais[" + std::to_string(entry->second) + "]",
                           error);
         }
     }
@@ -154,7 +154,7 @@ bool ReadSurface(const Place& place, const MaterialNames& names, Simulation::Sce
     const auto found = names.find(material);
     if (found == names.end()) {
         const Place name{place.value->Find("material"), &place, "material", 0};
-        return Refuse(name, "nenhum material tem o nome " + QuotedText(material), error);
+        return Refuse(name, "nenhum material tem o nome " + Text::QuotedText(material), error);
     }
     surface.materialIndex = static_cast<std::int32_t>(found->second);
     return CheckFlatness(place, surface.vertices, error);

@@ -3,11 +3,11 @@
 #include <vector>
 
 #include "Catalog/Json.hpp"
-#include "Document/ShownText.hpp"
 #include "Document/TaskReport.hpp"
 #include "Program/Commands.hpp"
 #include "Program/Message.hpp"
 #include "Simulation/Verification/TaskSearch.hpp"
+#include "Text/ShownText.hpp"
 
 namespace Merivane::Program {
 
@@ -21,7 +21,7 @@ int TasksCommand(const TasksArguments& arguments) {
         }
     }
     if (rows.empty()) {
-        TellError("nenhuma atividade da tabela contém " + Document::QuotedText(arguments.text));
+        TellError("nenhuma atividade da tabela contém " + Text::QuotedText(arguments.text));
         return StatusFailed;
     }
     return StatusDone;

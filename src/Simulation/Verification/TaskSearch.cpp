@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "Text/Ascii.hpp"
+#include "Text/FoldAccents.hpp"
 
 namespace Merivane::Simulation {
 
@@ -116,18 +117,10 @@ constexpr TaskWord NameWords[] = {
 };
 // clang-format on
 
-// What U+00C0 to U+00FF, two bytes each of which the first is 0xC3, fold to.
-constexpr std::string_view LatinLetters =
-    "aaaaaaaceeeeiiiidnooooo*ouuuuytsaaaaaaaceeeeiiiidnooooo/ouuuuyty";
-static_assert(LatinLetters.size() == 64);
-
-constexpr unsigned char FirstContinuation = 0x80;
-constexpr unsigned char LastContinuation = 0xBF;
-
 std::vector<std::string> FoldedWords(std::string_view text) {
     std::vector<std::string> words;
     std::string word;
-    for (const char c : FoldAccents(text) + ' ') {
+    for (const char c : Text::FoldAccents(text) + ' ') {
         if (!Text::IsWhiteSpace(c)) {
             word += c;
         } else if (!word.empty()) {
@@ -159,24 +152,8 @@ const TaskRow* FindTask(std::string_view id) {
     return found == table.end() ? nullptr : &*found;
 }
 
-std::string FoldAccents(std::string_view text) {
-    std::string folded;
-    folded.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isLead = text[i] == '\xC3' && i + 1 < text.size();
-        const auto next = static_cast<unsigned char>(isLead ? text[i + 1] : '\0');
-        if (next >= FirstContinuation && next <= LastContinuation) {
-            folded += LatinLetters[next - FirstContinuation];
-            ++i;
-        } else {
-            folded += text[i];
-        }
-    }
-    return Text::ToLower(folded);
-}
-
 std::string SuggestTaskId(std::string_view name) {
-    const std::string folded = FoldAccents(name);
+    const std::string folded = Text::FoldAccents(name);
     for (const TaskWord& part : NameWords) {
         if (folded.find(part.word) != std::string::npos) {
             return std::string(part.id);
@@ -190,7 +167,7 @@ std::vector<const TaskRow*> SearchTasks(std::string_view text) {
     std::vector<const TaskRow*> found;
     for (const TaskRow& row : TaskTable()) {
         const std::string folded =
-            FoldAccents(row.sectionName + '\n' + row.activity + '\n' + row.note);
+            Text::FoldAccents(row.sectionName + '\n' + row.activity + '\n' + row.note);
         if (std::all_of(words.begin(), words.end(),
                         [&](const std::string& word) { return SpeaksOf(row, folded, word); })) {
             found.push_back(&row);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Simulation/Verification/TaskTable.hpp"
+#include "Text/FoldAccents.hpp"
 
 namespace Merivane::Simulation {
 
@@ -15,9 +16,7 @@ std::string MigrateTaskId(std::string_view id);
 /// The row of an id or an old word key; null when there is none. Compares bytes.
 const TaskRow* FindTask(std::string_view id);
 
-/// UTF-8 without the accents of the Latin-1 letters, their capitals and those of ASCII lowered:
-/// one character for each letter. Other characters pass unchanged.
-std::string FoldAccents(std::string_view text);
+using Text::FoldAccents;
 
 /// The id of the activity that the name of a Zone speaks of, by the first keyword that occurs in
 /// it; empty without one.

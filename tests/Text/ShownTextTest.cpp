@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "Document/ShownText.hpp"
+#include "Text/ShownText.hpp"
 
-namespace Merivane::Document {
+namespace Merivane::Text {
 
 TEST(ShownText, KeepsWhatCanBeShownAndReplacesTheRest) {
     struct Case {
@@ -57,4 +57,4 @@ TEST(QuotedText, CutsLongTextsAtACharacter) {
               "\"12345678901234567890123456789012345678901234567890123456789...\"");
 }
 
-} // namespace Merivane::Document
+} // namespace Merivane::Text

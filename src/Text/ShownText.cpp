@@ -1,4 +1,4 @@
-#include "Document/ShownText.hpp"
+#include "Text/ShownText.hpp"
 
 #include <array>
 #include <cstddef>
@@ -6,7 +6,7 @@
 #include "Text/Ascii.hpp"
 #include "Text/Utf8.hpp"
 
-namespace Merivane::Document {
+namespace Merivane::Text {
 
 namespace {
 
@@ -88,7 +88,7 @@ std::string ShownText(std::string_view text) {
         }
         text.remove_prefix(character.length);
     }
-    return std::string(Text::Trim(shown));
+    return std::string(Trim(shown));
 }
 
 std::string QuotedText(std::string_view text) {
@@ -97,7 +97,7 @@ std::string QuotedText(std::string_view text) {
     if (shown.size() <= longest) {
         return '"' + shown + '"';
     }
-    return '"' + Text::TruncateUtf8(shown, longest) + "...\"";
+    return '"' + TruncateUtf8(shown, longest) + "...\"";
 }
 
-} // namespace Merivane::Document
+} // namespace Merivane::Text

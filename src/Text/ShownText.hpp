@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace Merivane::Document {
+namespace Merivane::Text {
 
 /// True when every character of `text` can stand in a line of a drawing, a table or a JSON text:
 /// well-formed UTF-8 without control characters, lone surrogates and the two non-characters that
@@ -17,4 +17,4 @@ std::string ShownText(std::string_view text);
 /// `ShownText` in quotation marks and cut to about 60 bytes, for messages.
 std::string QuotedText(std::string_view text);
 
-} // namespace Merivane::Document
+} // namespace Merivane::Text
