@@ -29,6 +29,7 @@ Solved Solve(const UgrRoom& room, const SceneLuminaire& luminaire,
         solved.transport, grid, BuildOffsetLight(solved.transport.cut, grid, grid.nx, grid.ny));
     solved.flux = grid.flux;
     std::vector<RadiosityCase> cases;
+    cases.reserve(sets.size());
     for (const ReflectanceSet& set : sets) {
         cases.push_back({solved.direct, set});
     }
