@@ -167,8 +167,7 @@ GlareResult ObserverGlare(const UgrObserver& observer,
 }
 
 std::string FormatUgr(double value) {
-    // A value that prints as 10,0 is not told as less than 10.
-    return PrintedValue(value, 1) < LeastShownUgr ? "< 10" : FormatDecimal(value, 1);
+    return value < LeastShownUgr ? "< 10" : FormatDecimal(value, 1);
 }
 
 } // namespace Merivane::Simulation

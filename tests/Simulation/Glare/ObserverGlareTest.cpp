@@ -296,15 +296,15 @@ TEST(RateSum, GivesTheSameRoomInAnotherLight) {
     EXPECT_EQ(brighter.sources, 1);
 }
 
-TEST(FormatUgr, TellsValuesThatPrintUnderTenAsLess) {
+TEST(FormatUgr, TellsValuesUnderTenAsLess) {
     struct Case {
         double value;
         std::string text;
     };
     const Case cases[] = {
-        {-4.2, "< 10"},  {0, "< 10"},     {9.4, "< 10"},    {9.94, "< 10"},  {9.9499, "< 10"},
-        {9.95, "10,0"},  {9.96, "10,0"},  {10, "10,0"},     {10.04, "10,0"}, {19.04, "19,0"},
-        {19.05, "19,1"}, {28.25, "28,3"}, {100.0, "100,0"},
+        {-4.2, "< 10"},  {0, "< 10"},      {9.4, "< 10"},    {9.94, "< 10"},  {9.9499, "< 10"},
+        {9.95, "< 10"},  {9.9999, "< 10"}, {10, "10,0"},     {10.04, "10,0"}, {19.04, "19,0"},
+        {19.05, "19,1"}, {28.25, "28,3"},  {100.0, "100,0"},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(FormatUgr(c.value), c.text);
