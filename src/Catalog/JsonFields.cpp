@@ -56,7 +56,7 @@ std::size_t EditDistance(std::string_view a, std::string_view b) {
 }
 
 /// " (talvez \"altura\")" where a known key is only a slip away, else nothing.
-std::string Hint(std::string_view key, std::initializer_list<Field> fields) {
+std::string Hint(std::string_view key, std::span<const Field> fields) {
     constexpr std::size_t longest = 40; // no known key is near so long a text
     std::size_t best = std::max<std::size_t>(1, key.size() / 3) + 1;
     std::string_view nearest;
@@ -74,7 +74,7 @@ std::string Hint(std::string_view key, std::initializer_list<Field> fields) {
     return nearest.empty() ? "" : " (talvez \"" + std::string(nearest) + "\")";
 }
 
-bool CheckKeys(const Place& place, std::initializer_list<Field> fields, std::string_view context,
+bool CheckKeys(const Place& place, std::span<const Field> fields, std::string_view context,
                std::string& error) {
     const auto hasKey = [](std::string_view key) {
         return [key](const Field& field) { return field.key == key; };
@@ -143,7 +143,7 @@ Field Optional(std::string_view key, FieldReader read) {
     return {key, false, std::move(read)};
 }
 
-bool ReadObject(const Place& place, std::initializer_list<Field> fields, std::string& error,
+bool ReadObject(const Place& place, std::span<const Field> fields, std::string& error,
                 std::string_view context) {
     if (place.value->kind != JsonKind::Object) {
         return RefuseValue(place, "um objeto", error);
@@ -158,6 +158,11 @@ bool ReadObject(const Place& place, std::initializer_list<Field> fields, std::st
         }
     }
     return true;
+}
+
+bool ReadObject(const Place& place, std::initializer_list<Field> fields, std::string& error,
+                std::string_view context) {
+    return ReadObject(place, std::span(fields.begin(), fields.size()), error, context);
 }
 
 FieldReader Into(std::string& target) {

@@ -53,6 +53,8 @@ Field Optional(std::string_view key, FieldReader read);
 /// Reads an object by its table of fields, in the table's order. Refuses what is no object, then a
 /// key that is not in the table, then a required key that is missing. `context` stands behind the
 /// name of an unknown key where the table depends on something: "num material \"opaco\"".
+bool ReadObject(const Place& place, std::span<const Field> fields, std::string& error,
+                std::string_view context = {});
 bool ReadObject(const Place& place, std::initializer_list<Field> fields, std::string& error,
                 std::string_view context = {});
 

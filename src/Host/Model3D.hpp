@@ -49,6 +49,8 @@ struct ModelSurface {
     Colour colour;
     double diffuse = 1.0;      ///< [0..1]
     double transparency = 0.0; ///< [0..1]
+
+    bool operator==(const ModelSurface&) const = default;
 };
 
 /// The bodies of one element, whatever the 3D window shows. Columns, beams, curtain walls, stairs

@@ -8,6 +8,7 @@
 
 #include "Catalog/Json.hpp"
 #include "Text/FileBytes.hpp"
+#include "Text/Hex.hpp"
 #include "Text/NativePath.hpp"
 
 namespace Merivane::Workbench {
@@ -17,32 +18,6 @@ namespace {
 using Catalog::JsonValue;
 
 constexpr double Format = 1.0;
-constexpr std::string_view HexDigits = "0123456789abcdef";
-
-std::string ToHex(std::string_view bytes) {
-    std::string hex;
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        hex += HexDigits[byte / 16];
-        hex += HexDigits[byte % 16];
-    }
-    return hex;
-}
-
-bool FromHex(std::string_view hex, std::string& bytes) {
-    if (hex.size() % 2 != 0) {
-        return false;
-    }
-    for (std::size_t i = 0; i < hex.size(); i += 2) {
-        const std::size_t high = HexDigits.find(hex[i]);
-        const std::size_t low = HexDigits.find(hex[i + 1]);
-        if (high == std::string_view::npos || low == std::string_view::npos) {
-            return false;
-        }
-        bytes += static_cast<char>(high * 16 + low);
-    }
-    return true;
-}
 
 bool IsVersion(double number) {
     using Limits = std::numeric_limits<std::int32_t>;
@@ -55,7 +30,7 @@ std::string FormatPreferences(const Preferences& preferences) {
     JsonValue root;
     root.Set("formato", JsonValue::MakeNumber(Format));
     root.Set("versao", JsonValue::MakeNumber(preferences.version));
-    root.Set("bloco", JsonValue::MakeString(ToHex(preferences.block)));
+    root.Set("bloco", JsonValue::MakeString(Text::ToHex(preferences.block)));
     return Catalog::JsonWrite(root);
 }
 
@@ -68,7 +43,7 @@ bool ParsePreferences(std::string_view text, Preferences& preferences) {
     const JsonValue* const hex = root.Find("bloco");
     Preferences read;
     if (!IsVersion(version) || !hex || hex->kind != Catalog::JsonKind::String ||
-        !FromHex(hex->text, read.block)) {
+        !Text::FromHex(hex->text, read.block)) {
         return false;
     }
     read.version = static_cast<std::int32_t>(version);

@@ -48,6 +48,8 @@ struct ProjectPart {
     std::vector<Host::LibraryParameter> parameters;
     std::vector<Host::ModelSurface> surfaces; ///< of its own, by name
     std::vector<GivenBody> bodies;            ///< for sizes A and B as above
+
+    bool operator==(const ProjectPart&) const = default;
 };
 
 /// A section: its line on the plan, and the window behind it.
@@ -114,6 +116,8 @@ struct Project {
     std::int16_t activeFloor = 0;
     double planScale = 100.0;
     std::uint64_t lastStamp = 0; ///< of the latest change of an element
+
+    bool operator==(const Project&) const = default;
 };
 
 /// The stories, layers, line types, fills and surfaces that a new project of the host has: one
