@@ -37,4 +37,28 @@ ErrorCode GetPreferences(std::int32_t& version, std::string& block) {
     return NoError;
 }
 
+ErrorCode StoreProjectData(std::string_view name, const ProjectData& data) {
+    if (const ErrorCode code = Workbench::CountStructureCall("StoreProjectData")) {
+        return code;
+    }
+    Workbench::Session& session = CurrentSession();
+    ProjectData& stored = session.project.data[std::string(name)];
+    session.projectChanged = true;
+    stored = data;
+    return NoError;
+}
+
+ErrorCode GetProjectData(std::string_view name, ProjectData& data) {
+    if (const ErrorCode code = Workbench::CountProjectCall("GetProjectData")) {
+        return code;
+    }
+    const auto& stored = CurrentSession().project.data;
+    const auto found = stored.find(std::string(name));
+    if (found == stored.end()) {
+        return NoProjectData;
+    }
+    data = found->second;
+    return NoError;
+}
+
 } // namespace Merivane::Host
