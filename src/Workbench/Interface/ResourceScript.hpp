@@ -101,7 +101,8 @@ struct ResourceScript {
 /// Reads a script behind what `script` holds already. Returns false and sets `error` to one
 /// Portuguese sentence, "linha N: " in front, at the first thing that the host's compiler would not
 /// take: a broken form, an unknown kind or style word, a number out of range, a resource that
-/// stands twice, a tooltip of an item that its dialog above does not have. `script` is then as it was.
+/// stands twice, a tooltip of an item that its dialog above does not have. `script` is then as it
+/// was.
 bool ParseResourceScript(std::string_view text, ResourceScript& script, std::string& error);
 
 } // namespace Merivane::Workbench
