@@ -10,7 +10,7 @@ namespace Merivane::Document {
 /// How a paragraph of a block is set [mm].
 struct ParagraphStyle {
     double height = 2.4; ///< of a capital letter
-    double pitch = 4.2;  ///< from line to line
+    double pitch = 3.9;  ///< from line to line
     Drawing::TextWeight weight = Drawing::TextWeight::Normal;
     Drawing::Color color = Drawing::Black;
 };

@@ -114,8 +114,11 @@ Choice ChoosePaper(const Box& bounds, const std::vector<SheetBlock>& blocks, dou
     if (onA4 > 0.0 && (onA4 <= SmallestScaleOnA4 || onA4 <= onA3)) {
         return {PaperSizes[0], onA4};
     }
-    if (onA3 > 0.0) {
-        return {PaperSizes[1], onA3};
+    for (std::size_t k = 1; k < PaperSizes.size(); ++k) {
+        const double scale = LargestScale(bounds, blocks, PaperSizes[k]);
+        if (scale > 0.0) {
+            return {PaperSizes[k], scale};
+        }
     }
     Choice choice = SmallestPaper(bounds, blocks, PlanScales.back());
     while ((choice.paper.width > LargestSide || choice.paper.height > LargestSide) &&

@@ -48,7 +48,8 @@ double PaperLength(const PlanSheet& sheet, double metres);
 
 /// Chooses sheet and scale for a plan of the extent `bounds` [m] and the blocks beside it, and
 /// places both. With `wantedScale` 0 or less: A4 where 1:75 or a larger scale fits, else the
-/// largest scale down to 1:200 on A3, A4 where that gains nothing; then larger sheets at 1:200.
+/// largest scale down to 1:200 on A3, A4 where that gains nothing; then on the first larger sheet
+/// that holds 1:200.
 /// With a scale: the smallest sheet of the A series that holds it. Beyond A0 the sheet is made to
 /// measure, and a scale that was not asked for goes on falling at 5 m of paper.
 PlanSheet ArrangeSheet(const Drawing::Box& bounds, const std::vector<SheetBlock>& blocks,

@@ -13,10 +13,10 @@ using Simulation::FormatDecimal;
 
 constexpr ParagraphStyle Title = {3.2, 4.8, TextWeight::Bold, Drawing::Black};
 constexpr ParagraphStyle Unverified = {2.8, 4.4, TextWeight::Normal, Drawing::Black};
-constexpr ParagraphStyle Line = {2.4, 4.2, TextWeight::Normal, Drawing::Black};
+constexpr ParagraphStyle Line = {2.4, 3.9, TextWeight::Normal, Drawing::Black};
 constexpr ParagraphStyle Remark = {1.8, 3.2, TextWeight::Normal, Muted};
 constexpr double Blank = 1.8;     // paragraph without text
-constexpr double LinePitch = 4.4; // of the figures
+constexpr double LinePitch = 4.2; // of the figures
 constexpr double Between = 4.0;   // between the two halves of a line
 constexpr double Descender = 0.7; // letters that reach below the last line
 
@@ -48,9 +48,18 @@ void AppendPair(SheetBlock& block, const Figure& first, const Figure& second) {
     AppendFigure(block, second, half, block.width);
 }
 
-void AppendWhole(SheetBlock& block, const Figure& figure) {
-    block.height += LinePitch;
-    AppendFigure(block, figure, 0.0, block.width);
+// Figures with long names: a line each, two to a line where the block is wide enough.
+void AppendLong(SheetBlock& block, const std::vector<Figure>& figures) {
+    const std::size_t perLine = block.width > ColumnWidth ? 2 : 1;
+    for (std::size_t i = 0; i < figures.size(); i += perLine) {
+        if (perLine == 2 && i + 1 < figures.size()) {
+            AppendPair(block, figures[i], figures[i + 1]);
+        } else {
+            block.height += LinePitch;
+            AppendFigure(block, figures[i], 0.0,
+                         perLine == 2 ? 0.5 * block.width - Between : block.width);
+        }
+    }
 }
 
 std::string Lux(double value) {
@@ -86,13 +95,15 @@ void AppendFigures(SheetBlock& block, const PlanZone& zone) {
     AppendPair(block, {"Em", Lux(statistics.mean)},
                {"U0", FormatDecimal(statistics.uniformity, 2)});
     AppendPair(block, {"Emin", Lux(statistics.minimum)}, {"Emax", Lux(statistics.maximum)});
-    AppendWhole(block, {"Pontos", std::to_string(statistics.count)});
-    AppendWhole(block, {"Plano de trabalho", Metres(zone.workPlaneHeight)});
+    std::vector<Figure> figures = {{"Pontos", std::to_string(statistics.count)},
+                                   {"Plano de trabalho", Metres(zone.workPlaneHeight)}};
+    if (!zone.grid.narrow) {
+        figures.push_back({"Faixa de borda", Metres(zone.borderBand)});
+    }
+    AppendLong(block, figures);
     if (zone.grid.narrow) {
         block.height += 1.0;
         AppendParagraph(block, NarrowRemark, Remark);
-    } else {
-        AppendWhole(block, {"Faixa de borda", Metres(zone.borderBand)});
     }
 }
 

@@ -15,7 +15,7 @@ using Simulation::VerificationKind;
 using Simulation::VerificationRow;
 
 constexpr double RowHeight = 2.4;
-constexpr double RowPitch = 4.2;
+constexpr double RowPitch = 3.9;
 constexpr double LeastHeight = 1.4; // of a cell that is too long for its column
 constexpr Drawing::Color Met{0.05, 0.45, 0.15, 1.0};
 constexpr Drawing::Color Failed{0.75, 0.08, 0.08, 1.0};
