@@ -42,6 +42,11 @@ double Panel(double vertical, double horizontal) {
     return std::pow(Cosine(vertical), 1.15) * (0.35 + 0.65 * FadeAbove(vertical, edge, 5.0));
 }
 
+double LouvredPanel(double vertical, double horizontal) {
+    const double edge = 55.0 + 3.0 * (1.0 - SineSquared(horizontal));
+    return Cosine(vertical) * (0.004 + 0.996 * FadeAbove(vertical, edge, 3.5));
+}
+
 double Batwing(double vertical, double horizontal) {
     const double wing = Beam(vertical - 38.0, 18.0);
     return Cosine(vertical) * (0.8 + 1.5 * wing * SineSquared(horizontal));

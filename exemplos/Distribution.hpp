@@ -13,6 +13,10 @@ double Downlight(double vertical, double horizontal);
 /// wider along C0.
 double Panel(double vertical, double horizontal);
 
+/// Recessed panel behind a cellular louvre: cosine to about 50 degrees, dark from 65 on, so that it
+/// does not mirror in screens.
+double LouvredPanel(double vertical, double horizontal);
+
 /// Linear luminaire with two wings across its length (C90), for aisles and continuous rows.
 double Batwing(double vertical, double horizontal);
 

@@ -112,6 +112,15 @@ SampleLuminaire OfficePanel() {
     return sample;
 }
 
+SampleLuminaire LouvredOfficePanel() {
+    SampleLuminaire sample = Begin("painel-antiofuscante.ies", "PA60", "Painel Antiofuscante 600",
+                                   "LED 24 W 4000 K", 24.0);
+    sample.photometry.keywords.emplace_back("_RA", "90");
+    SetOpening(sample.photometry, 0.57, 0.57, 0.0);
+    FillTable(sample.photometry, LouvredPanel, FinelyBelow, Quadrant, 2800.0);
+    return sample;
+}
+
 SampleLuminaire LinearBatwing() {
     SampleLuminaire sample =
         Begin("linear-asa.ies", "LN12", "Linear Asa 1200", "LED 26 W 4000 K", 26.0);
@@ -147,6 +156,7 @@ SampleLuminaire IndirectPendant() {
 SampleLuminaire DirectIndirectPendant() {
     SampleLuminaire sample =
         Begin("pendente-duplo.ies", "PD15", "Pendente Duplo 1500", "LED 38 W 4000 K", 38.0);
+    sample.photometry.keywords.emplace_back("_RA", "85");
     SetOpening(sample.photometry, 0.08, 1.5, 0.06);
     FillTable(sample.photometry, DirectIndirect, Everywhere, Quadrant, 4500.0);
     return sample;
@@ -215,10 +225,11 @@ SampleLuminaire OldestPlafond() {
 
 std::vector<SampleLuminaire> BuildSampleLuminaires() {
     return {
-        RoundDownlight(),      OldRoundDownlight(),     OfficePanel(),
-        LinearBatwing(),       LinearWallwasher(),      OvalSpot(),
-        IndirectPendant(),     DirectIndirectPendant(), LampedHighBay(),
-        LampedTrofferInFeet(), AccentedSconce(),        OldestPlafond(),
+        RoundDownlight(),     OldRoundDownlight(),   OfficePanel(),
+        LouvredOfficePanel(), LinearBatwing(),       LinearWallwasher(),
+        OvalSpot(),           IndirectPendant(),     DirectIndirectPendant(),
+        LampedHighBay(),      LampedTrofferInFeet(), AccentedSconce(),
+        OldestPlafond(),
     };
 }
 

@@ -48,6 +48,14 @@ JsonValue LoosePoint(Vertex position, Vertex direction) {
     return point;
 }
 
+JsonValue Observer(const char* name, Vertex eye, Point sight) {
+    JsonValue observer;
+    observer.Set("nome", JsonValue::MakeString(name));
+    observer.Set("posicao", NumberList({eye[0], eye[1], eye[2]}));
+    observer.Set("direcao", NumberList({sight[0], sight[1]}));
+    return observer;
+}
+
 // 6 x 4 m, a table, a door, four downlights in the ceiling.
 SampleScene SmallRoom() {
     constexpr double Height = 2.8;
@@ -60,32 +68,41 @@ SampleScene SmallRoom() {
     JsonValue zone = Zone("Sala", outline, Height);
     zone.Set("calcularParedes", JsonValue::MakeBool(true));
     zone.Set("calcularTeto", JsonValue::MakeBool(true));
+    zone.Set("atividade", JsonValue::MakeString("s28.6")); // reading; "Sala" suggests nothing
 
     JsonValue document = BeginDocument("Sala de leitura");
     document.Set("materiais", List(OpaqueMaterials()));
     document.Set("superficies", std::move(model.surfaces));
-    document.Set("luminarias", List({
-                                   Luminaire("D1", "downlight.ies", {1.5, 1.0, Height}),
-                                   Luminaire("D2", "downlight.ies", {4.5, 1.0, Height}),
-                                   Luminaire("D3", "downlight.ies", {1.5, 3.0, Height}),
-                                   Luminaire("D4", "downlight.ies", {4.5, 3.0, Height}),
-                               }));
+    document.Set("luminarias",
+                 List({
+                     WithColourRendering(Luminaire("D1", "downlight.ies", {1.5, 1.0, Height}), 80),
+                     WithColourRendering(Luminaire("D2", "downlight.ies", {4.5, 1.0, Height}), 80),
+                     WithColourRendering(Luminaire("D3", "downlight.ies", {1.5, 3.0, Height}), 80),
+                     WithColourRendering(Luminaire("D4", "downlight.ies", {4.5, 3.0, Height}), 80),
+                 }));
     document.Set("zonas", List({std::move(zone)}));
     document.Set("pontos", List({
                                LoosePoint({3.0, 2.0, 0.73}, {0, 0, 1}), // on the table
                                LoosePoint({0.02, 2.0, 1.5}, {1, 0, 0}), // on the wall
                            }));
+    document.Set("observadores", List({Observer("Leitor", {3.0, 1.3, 1.2}, {0, 1})}));
     EndDocument(document, {50, 75, 100, 125, 150, 175, 200, 225});
     return {"sala", std::move(document)};
 }
 
-// The office: an L of 120 m2. In its south-east corner a meeting room stands behind glass; a column
-// stands in the open part.
+// The office: an L of 120 m2. In its south-east corner a meeting room stands behind glass, a
+// passage leads by it to the door; a column stands in the open part.
 constexpr double OfficeHeight = 2.8;
 constexpr const char* PartitionGlass = "Vidro incolor";
 constexpr const char* SolarGlass = "Vidro refletivo";
 constexpr Point ColumnLow = {4.8, 2.8};
 constexpr Point ColumnHigh = {5.2, 3.2};
+
+// The Zones of the office. Each has its own piece of floor and ceiling, so that the mean of its
+// reflectances finds them.
+const std::vector<Point> OpenPlan = {{0, 0}, {9.6, 0}, {9.6, 6}, {7.2, 6}, {7.2, 11}, {0, 11}};
+const std::vector<Point> MeetingRoom = {{9.6, 0}, {14, 0}, {14, 3.6}, {9.6, 3.6}};
+const std::vector<Point> Passage = {{9.6, 3.6}, {14, 3.6}, {14, 6}, {9.6, 6}};
 
 RoomModel OfficeModel() {
     const auto window = [](double from, double to) {
@@ -93,7 +110,9 @@ RoomModel OfficeModel() {
     };
     const std::vector<Point> outline = {{0, 0}, {14, 0}, {14, 6}, {7.2, 6}, {7.2, 11}, {0, 11}};
     RoomModel model;
-    model.AddFloorAndCeiling(outline, OfficeHeight, Floor, Ceiling);
+    for (const std::vector<Point>& room : {OpenPlan, MeetingRoom, Passage}) {
+        model.AddFloorAndCeiling(room, OfficeHeight, Floor, Ceiling);
+    }
     AddWalls(model, outline, OfficeHeight,
              {{window(1.0, 4.0), window(5.5, 8.5), window(10.6, 13.0)},
               {Door(4.4)},
@@ -118,25 +137,29 @@ struct LuminaireField {
     double stepX;
     int rows;
     double stepY;
+    double colourRendering = 0.0; // 0 where the file tells it
 };
 
 std::vector<JsonValue> OfficeLuminaires() {
     constexpr double PendantHeight = 2.3; // under the ceiling, which it lights
     const LuminaireField fields[] = {
-        {"Painel", "painel-600.ies", {1.2, 1.5, OfficeHeight}, 4, 2.4, 2, 3.0},
-        {"Painel", "painel-600.ies", {0.9, 7.25, OfficeHeight}, 4, 1.8, 2, 2.5},
-        {"Downlight", "downlight.ies", {10.15, 4.8, OfficeHeight}, 4, 1.1, 1, 0.0},
-        {"Pendente", "pendente-duplo.ies", {10.7, 1.2, PendantHeight}, 2, 2.2, 2, 1.2},
+        {"Painel", "painel-antiofuscante.ies", {0.6, 0.7, OfficeHeight}, 6, 1.68, 3, 2.3},
+        {"Painel", "painel-antiofuscante.ies", {0.6, 7.8, OfficeHeight}, 4, 2.0, 2, 2.5},
+        {"Downlight", "downlight.ies", {11.1, 4.8, OfficeHeight}, 3, 1.3, 1, 0.0, 80},
+        {"Pendente", "pendente-duplo.ies", {10.9, 0.8, PendantHeight}, 2, 2.4, 2, 2.0},
     };
     std::vector<JsonValue> luminaires;
     for (const LuminaireField& field : fields) {
         for (int row = 0; row < field.rows; ++row) {
             for (int column = 0; column < field.columns; ++column) {
                 const std::string number = std::to_string(luminaires.size() + 1);
-                luminaires.push_back(
+                JsonValue luminaire =
                     Luminaire(std::string(field.name) + " " + number, field.iesFile,
                               {field.first[0] + column * field.stepX,
-                               field.first[1] + row * field.stepY, field.first[2]}));
+                               field.first[1] + row * field.stepY, field.first[2]});
+                luminaires.push_back(field.colourRendering > 0.0
+                                         ? WithColourRendering(luminaire, field.colourRendering)
+                                         : luminaire);
             }
         }
     }
@@ -144,16 +167,14 @@ std::vector<JsonValue> OfficeLuminaires() {
 }
 
 SampleScene Office() {
-    JsonValue open =
-        Zone("Escritório",
-             {{0, 0}, {9.6, 0}, {9.6, 3.6}, {14, 3.6}, {14, 6}, {7.2, 6}, {7.2, 11}, {0, 11}},
-             OfficeHeight);
+    JsonValue open = Zone("Escritório", OpenPlan, OfficeHeight);
     open.Set("furos", List({PointList({ColumnLow,
                                        {ColumnHigh[0], ColumnLow[1]},
                                        ColumnHigh,
                                        {ColumnLow[0], ColumnHigh[1]}})}));
-    JsonValue meeting =
-        Zone("Sala de reunião", {{9.6, 0}, {14, 0}, {14, 3.6}, {9.6, 3.6}}, OfficeHeight);
+    JsonValue meeting = Zone("Sala de reunião", MeetingRoom, OfficeHeight);
+    JsonValue passage = Zone("Circulação", Passage, OfficeHeight);
+    passage.Set("planoDeTrabalho", JsonValue::MakeNumber(0.1)); // one walks here
 
     std::vector<JsonValue> materials = OpaqueMaterials();
     // Of each pane's two faces: 0.88 and 0.36 through both.
@@ -164,7 +185,7 @@ SampleScene Office() {
     document.Set("materiais", List(std::move(materials)));
     document.Set("superficies", std::move(OfficeModel().surfaces));
     document.Set("luminarias", List(OfficeLuminaires()));
-    document.Set("zonas", List({std::move(open), std::move(meeting)}));
+    document.Set("zonas", List({std::move(open), std::move(meeting), std::move(passage)}));
     EndDocument(document, {200, 300, 400, 500, 600, 700});
     return {"escritorio", std::move(document)};
 }
@@ -177,10 +198,11 @@ SampleScene Corridor() {
     model.AddFloorAndCeiling(outline, Height, Floor, Ceiling);
     AddWalls(model, outline, Height, {{Door(1.0), Door(5.0), Door(9.0)}, {}, {Door(5.55)}, {}});
 
-    JsonValue luminaire = Luminaire("D", "downlight-1991.ies", {1.2, 0.45, Height});
+    JsonValue luminaire =
+        WithColourRendering(Luminaire("D", "downlight-1991.ies", {0.7, 0.45, Height}), 80);
     JsonValue copies;
     copies.Set("x", JsonValue::MakeNumber(5));
-    copies.Set("passoX", JsonValue::MakeNumber(2.4));
+    copies.Set("passoX", JsonValue::MakeNumber(2.65));
     luminaire.Set("repeticao", std::move(copies));
 
     JsonValue zone = Zone("Corredor", outline, Height);

@@ -13,8 +13,8 @@ struct SampleScene {
     Catalog::JsonValue document;
 };
 
-/// The three scenes: a small room, an office with two Zones and glass between them, and a corridor
-/// so narrow that its border band would cover it whole.
+/// The three scenes: a small room, an office with three Zones and glass between two of them, and a
+/// corridor so narrow that its border band would cover it whole.
 std::vector<SampleScene> BuildSampleScenes();
 
 } // namespace Merivane::Examples

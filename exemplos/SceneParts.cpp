@@ -48,10 +48,16 @@ JsonValue Luminaire(const std::string& name, const std::string& iesFile, Vertex 
     return luminaire;
 }
 
+JsonValue WithColourRendering(JsonValue luminaire, double index) {
+    luminaire.Set("indiceDeReproducaoDeCor", JsonValue::MakeNumber(index));
+    return luminaire;
+}
+
 JsonValue Zone(const std::string& name, const std::vector<Point>& outline, double height) {
     JsonValue zone = Named(name);
     zone.Set("contorno", PointList(outline));
     zone.Set("altura", JsonValue::MakeNumber(height));
+    zone.Set("atividade", JsonValue::MakeString("auto"));
     return zone;
 }
 

@@ -23,7 +23,10 @@ Catalog::JsonValue CoatedGlass(const std::string& name, double transmittance, do
 Catalog::JsonValue Luminaire(const std::string& name, const std::string& iesFile, Vertex position,
                              double rotation = 0.0);
 
-/// A Zone from the floor z = 0 up.
+/// The luminaire with a colour rendering index that its file does not tell.
+Catalog::JsonValue WithColourRendering(Catalog::JsonValue luminaire, double index);
+
+/// A Zone from the floor z = 0 up, its activity suggested by its name.
 Catalog::JsonValue Zone(const std::string& name, const std::vector<Point>& outline, double height);
 
 /// A document of this name, with the profile "projeto" and these levels [lux]; its other lists are

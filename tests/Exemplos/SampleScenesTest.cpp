@@ -56,13 +56,16 @@ TEST(SampleScenes, TheRoomHasFourDownlights) {
     EXPECT_EQ(Built(document).planes.size(), 6U); // work plane, four walls, ceiling
 }
 
-TEST(SampleScenes, TheOfficeHasTwoZonesThreeTypesAndBothKindsOfGlass) {
+TEST(SampleScenes, TheOfficeHasThreeZonesThreeTypesAndBothKindsOfGlass) {
     const SceneDocument document = ReadScene("escritorio");
-    ASSERT_EQ(document.zones.size(), 2U);
+    ASSERT_EQ(document.zones.size(), 3U);
     EXPECT_EQ(document.zones[0].outline.holes.size(), 1U);
-    EXPECT_NEAR(Area(document.zones[0].outline.outer) + Area(document.zones[1].outline.outer),
-                120.0, 1e-9);
-    EXPECT_EQ(document.luminaires.size(), 24U);
+    double area = 0.0;
+    for (const Document::DocumentZone& zone : document.zones) {
+        area += Area(zone.outline.outer);
+    }
+    EXPECT_NEAR(area, 120.0, 1e-9);
+    EXPECT_EQ(document.luminaires.size(), 33U);
     std::set<std::string> types;
     for (const Simulation::SceneLuminaire& luminaire : document.luminaires) {
         types.insert(luminaire.typeKey);
@@ -87,6 +90,41 @@ TEST(SampleScenes, TheCorridorCountsWhole) {
     EXPECT_EQ(grid.task, grid.active);
     ASSERT_EQ(document.luminaires.size(), 1U);
     EXPECT_EQ(document.luminaires[0].arrayCountX, 5);
+}
+
+TEST(SampleScenes, EveryZoneHasItsActivity) {
+    struct Case {
+        std::string scene;
+        std::vector<std::string> activities;
+        bool byName;
+    };
+    const Case cases[] = {{"sala", {"s28.6"}, false},
+                          {"escritorio", {"s22.2", "s22.5", "s1.3"}, true},
+                          {"corredor", {"s1.3"}, true}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.scene);
+        const SceneDocument document = ReadScene(c.scene);
+        ASSERT_EQ(document.zones.size(), c.activities.size());
+        for (std::size_t i = 0; i < c.activities.size(); ++i) {
+            EXPECT_EQ(document.zones[i].task.requirement.taskId, c.activities[i]);
+            EXPECT_EQ(document.zones[i].task.byName, c.byName);
+        }
+    }
+}
+
+TEST(SampleScenes, EveryLuminaireTellsItsColourRendering) {
+    for (const char* name : {"sala", "escritorio", "corredor"}) {
+        for (const Simulation::SceneLuminaire& luminaire : ReadScene(name).luminaires) {
+            EXPECT_GE(luminaire.contract.colourRendering, 80.0) << luminaire.displayName;
+        }
+    }
+}
+
+TEST(SampleScenes, TheReaderOfTheRoomIsAnObserver) {
+    const Document::BuiltScene built = Built(ReadScene("sala"));
+    EXPECT_EQ(built.notices, std::vector<std::string>());
+    EXPECT_EQ(built.observers.size(), 5U);
+    EXPECT_TRUE(built.observers.back().placed);
 }
 
 double Dot(const Point3D& a, const Point3D& b) {
