@@ -203,6 +203,9 @@ struct Element {
     bool operator==(const Element&) const = default;
 };
 
+/// Parts of a memo that are read or changed.
+enum class MemoParts : std::uint32_t { Polygon = 1, Parameters = 2, Text = 4, Body = 8, All = 15 };
+
 /// An arc of a contour: the side from vertex `from` to the next one bends by `angle` [rad],
 /// positive where the arc lies to the right of its chord.
 struct PolygonArc {
@@ -277,9 +280,6 @@ struct ElementMemo {
 
     bool operator==(const ElementMemo&) const = default;
 };
-
-/// Parts of a memo that are read or changed.
-enum class MemoParts : std::uint32_t { Polygon = 1, Parameters = 2, Text = 4, Body = 8, All = 15 };
 
 /// Which elements a list holds.
 enum class ElementFilter : std::uint32_t {
