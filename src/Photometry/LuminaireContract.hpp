@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -21,17 +23,20 @@ enum class ContractParameterType : int {
 
 /// One parameter of a luminaire's library part. Which value field counts follows from `type`.
 struct ContractParameter {
-    std::string name;
+    std::string name; ///< ASCII, at most 31 characters
     ContractParameterType type = ContractParameterType::Integer;
     std::string description; ///< label in the host's parameter list, UTF-8
     bool hidden = false;
-    double number = 0.0; ///< numeric types; angles in degrees
-    std::string text;    ///< string
-    int dim1 = 0;
-    int dim2 = 0;
+    double number = 0.0;            ///< numeric types; angles in degrees
+    std::string text;               ///< string
+    int dim1 = 0;                   ///< arrays: rows
+    int dim2 = 0;                   ///< arrays: columns
     std::vector<double> numbers;    ///< real array, row after row, `dim1` x `dim2`
     std::vector<std::string> texts; ///< string array, `dim1` entries
 };
+
+/// Names of parameters, to ask a part for some of its many.
+using ParameterNames = std::set<std::string, std::less<>>;
 
 /// What is chosen for a luminaire beside its photometric file.
 struct LuminaireSettings {
