@@ -1,6 +1,6 @@
-// The first byte chooses the reader: preference block, engine settings, last run, levels or
-// the activities of Zones. Whatever the bytes, reading ends without a crash, and what is read is
-// written so that it reads back.
+// The first byte chooses the reader: preference block, engine settings, last run, levels, the
+// activities of Zones or corrected reflectances. Whatever the bytes, reading ends without a crash,
+// and what is read is written so that it reads back.
 
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +12,7 @@
 #include "Simulation/LastRunRecord.hpp"
 #include "Simulation/LevelList.hpp"
 #include "Simulation/PreferenceBlock.hpp"
+#include "Simulation/ReflectanceText.hpp"
 #include "Simulation/Verification/ZoneTasksText.hpp"
 
 using namespace Merivane::Simulation;
@@ -77,6 +78,21 @@ void ReadZoneTasks(std::string_view bytes) {
     Require(back == map && standardBack == standard);
 }
 
+void ReadReflectances(std::string_view bytes) {
+    ReflectanceStore store;
+    if (!ParseReflectances(bytes, store)) {
+        Require(store.empty());
+        return;
+    }
+    // A key of an older text can hold a tab, or the line break of another system; neither is ever
+    // written.
+    std::erase_if(store, [](const auto& entry) {
+        return entry.first.find_first_of("\t\r") != std::string::npos;
+    });
+    ReflectanceStore back;
+    Require(ParseReflectances(FormatReflectances(store), back) && back == store);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -99,6 +115,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         break;
     case 't':
         ReadZoneTasks(bytes);
+        break;
+    case 'f':
+        ReadReflectances(bytes);
         break;
     default:
         break;
