@@ -16,14 +16,6 @@ using Workbench::FoundPart;
 using Workbench::ProjectElement;
 using Workbench::Session;
 
-// What a section shows is made when its window comes to front for the first time.
-bool HasContent(const Session& session, const Window& database) {
-    const bool isSection = database.type == WindowType::Section ||
-                           database.type == WindowType::Elevation ||
-                           database.type == WindowType::InteriorElevation;
-    return !isSection || session.visitedDatabases.contains(database.database);
-}
-
 ElementHeader HeaderOfPart(const ProjectElement& owner, const ElementPart& part) {
     ElementHeader header = owner.element.header;
     header.type = part.type;
@@ -81,7 +73,7 @@ ErrorCode ListElements(ElementType type, ElementFilter filter, std::vector<Guid>
         return BadDatabase;
     }
     guids.clear();
-    if (!HasContent(session, session.database)) {
+    if (!Workbench::HasContent(session, session.database)) {
         return NoError;
     }
     const bool isPart = Workbench::IsPartType(type);

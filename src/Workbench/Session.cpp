@@ -118,6 +118,13 @@ std::int32_t LibraryPlaceOf(std::int32_t index) {
     return place >= 0 && place < count ? static_cast<std::int32_t>(place) : -1;
 }
 
+bool HasContent(const Session& session, const Host::Window& database) {
+    const bool isSection = database.type == Host::WindowType::Section ||
+                           database.type == Host::WindowType::Elevation ||
+                           database.type == Host::WindowType::InteriorElevation;
+    return !isSection || session.visitedDatabases.contains(database.database);
+}
+
 Host::Guid FreshGuid() {
     Session& session = CurrentSession();
     Host::Guid guid = NextGuid(session.guids);

@@ -39,6 +39,7 @@ struct ProcessWindow {
     std::int32_t phaseCount = 0; ///< as announced
     std::vector<ProcessPhase> phases;
     bool open = true;
+    bool cancelled = false; ///< the user has pressed its button; set by a test, too
 };
 
 /// Who is told of project events.
@@ -134,6 +135,10 @@ void RenewLibraryIndices();
 /// stale or unknown one.
 std::int32_t LibraryIndexOf(std::size_t place);
 std::int32_t LibraryPlaceOf(std::int32_t index);
+
+/// False for a section, elevation or interior elevation whose window was not in front yet in this
+/// session: what it shows is made then.
+bool HasContent(const Session& session, const Host::Window& database);
 
 /// A guid that no element, part or database of the open project has.
 Host::Guid FreshGuid();

@@ -298,6 +298,30 @@ void CopyMemo(const ElementMemo& from, MemoParts parts, ElementMemo& to) {
     }
 }
 
+void TakeMemo(ElementType type, const ElementMemo& from, ElementMemo& to) {
+    const MemoParts own = MemoPartsOf(type);
+    if (type == ElementType::Spline) {
+        to.splinePoints = from.splinePoints;
+        to.splineDirections = from.splineDirections;
+    } else if (own == MemoParts::Polygon) {
+        to.polygon = from.polygon;
+    } else if (own != MemoParts::Parameters) {
+        CopyMemo(from, own, to);
+    }
+}
+
+bool IsTextChange(const Host::ElementData& before, const Host::ElementData& after) {
+    const auto* const old = std::get_if<Host::TextData>(&before);
+    const auto* const wanted = std::get_if<Host::TextData>(&after);
+    if (!old || !wanted) {
+        return true;
+    }
+    Host::TextData allowed = *old;
+    allowed.position = wanted->position;
+    allowed.width = wanted->width;
+    return allowed == *wanted;
+}
+
 bool PassesFilter(const Project& project, const Host::ElementHeader& header, ElementFilter filter) {
     const auto layer = project.layers.find(header.layer.value);
     const bool visible = layer != project.layers.end() && !layer->second.hidden;

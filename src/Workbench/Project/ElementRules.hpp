@@ -47,6 +47,12 @@ bool Holds(Host::MemoParts parts, Host::MemoParts part);
 /// Copies the given parts of a memo over those of another.
 void CopyMemo(const Host::ElementMemo& from, Host::MemoParts parts, Host::ElementMemo& to);
 
+/// Takes over what elements of this type have in a memo, but for parameters.
+void TakeMemo(Host::ElementType type, const Host::ElementMemo& from, Host::ElementMemo& to);
+
+/// True when a text may be changed so: its position and width; anything else needs a new one.
+bool IsTextChange(const Host::ElementData& before, const Host::ElementData& after);
+
 /// True when an element of this type passes the filters (its bits together).
 bool PassesFilter(const Project& project, const Host::ElementHeader& header,
                   Host::ElementFilter filter);
