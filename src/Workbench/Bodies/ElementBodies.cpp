@@ -7,6 +7,7 @@
 
 #include "Workbench/Bodies/FacedBody.hpp"
 #include "Workbench/Bodies/GivenBodies.hpp"
+#include "Workbench/Bodies/ScriptSurfaces.hpp"
 #include "Workbench/Bodies/SolidBodies.hpp"
 #include "Workbench/Bodies/WallBody.hpp"
 
@@ -71,19 +72,18 @@ bool BuildOpening(const BodySource& source, const OpeningGeometry& opening,
 
 bool BuildObject(const BodySource& source, const Host::ElementHeader& header,
                  const Host::ObjectData& object, std::vector<Host::Body>& bodies) {
-    const std::vector<ProjectPart>& parts = source.project->parts;
-    if (object.libraryIndex < 1 || static_cast<std::size_t>(object.libraryIndex) > parts.size()) {
+    const ProjectPart* part = FindObjectPart(*source.project, object);
+    if (part == nullptr) {
         return false;
     }
-    const ProjectPart& part = parts[static_cast<std::size_t>(object.libraryIndex - 1)];
     const auto numberOf = [&](std::string_view name) {
-        return source.scriptSurface ? source.scriptSurface(part, name) : -1;
+        return NumberScriptSurface(*source.project, *part, name);
     };
     const BodyTransform transform =
         PlaceObject(object, StoryLevel(*source.project, header.floorIndex));
-    for (const GivenBody& given : part.bodies) {
+    for (const GivenBody& given : part->bodies) {
         FacedBody faced = BuildGivenBody(given, numberOf);
-        FitToObject(faced, part, object);
+        FitToObject(faced, *part, object);
         AddBody(faced, transform, bodies);
     }
     return true;
@@ -136,6 +136,12 @@ double StoryLevel(const Project& project, std::int16_t floorIndex) {
         std::find_if(project.stories.begin(), project.stories.end(),
                      [&](const Host::Story& candidate) { return candidate.index == floorIndex; });
     return story == project.stories.end() ? 0.0 : story->level;
+}
+
+const ProjectPart* FindObjectPart(const Project& project, const Host::ObjectData& object) {
+    const auto place = static_cast<std::size_t>(object.libraryIndex) - 1;
+    return object.libraryIndex > 0 && place < project.parts.size() ? &project.parts[place]
+                                                                   : nullptr;
 }
 
 bool BuildElementBodies(const BodySource& source, const ProjectElement& element,

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
-#include <string_view>
 #include <vector>
 
 #include "Host/Elements.hpp"
@@ -17,9 +15,6 @@ namespace Merivane::Workbench {
 struct BodySource {
     const Project* project = nullptr;
     const ElementIndex* index = nullptr; ///< of the project's elements
-    /// Number of a surface of a part's own, from `Host::FirstScriptSurface` up; -1 for a name that
-    /// the part does not know. Without it such faces have no surface.
-    std::function<std::int32_t(const ProjectPart& part, std::string_view name)> scriptSurface = {};
 };
 
 /// True for the types that are nothing but their parts: columns, beams, curtain walls, stairs and
@@ -31,6 +26,9 @@ bool HasBody(Host::ElementType type);
 
 /// The level of a story [m]; 0 for one that the project does not have.
 double StoryLevel(const Project& project, std::int16_t floorIndex);
+
+/// The part of an object or lamp, null when the project does not have it.
+const ProjectPart* FindObjectPart(const Project& project, const Host::ObjectData& object);
 
 /// The bodies of one element, without those of its parts. Empty for an empty opening. Returns
 /// false where there is nothing to build: no geometry, one that encloses nothing, an object of an
