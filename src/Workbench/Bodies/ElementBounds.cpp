@@ -72,4 +72,11 @@ bool ElementBounds(const BodySource& source, const ProjectElement& element, Elem
     return BodyBounds(bodies, box.lowest, box.highest);
 }
 
+bool PartBounds(const BodySource& source, const ProjectElement& whole, const ElementPart& part,
+                ElementBox& box) {
+    std::vector<Host::Body> bodies;
+    BuildPartBodies(source, whole, part, bodies);
+    return BodyBounds(bodies, box.lowest, box.highest);
+}
+
 } // namespace Merivane::Workbench

@@ -16,4 +16,8 @@ struct ElementBox {
 /// leaving `box` as it was, where there is nothing to measure.
 bool ElementBounds(const BodySource& source, const ProjectElement& element, ElementBox& box);
 
+/// The same for one part of an element.
+bool PartBounds(const BodySource& source, const ProjectElement& whole, const ElementPart& part,
+                ElementBox& box);
+
 } // namespace Merivane::Workbench
