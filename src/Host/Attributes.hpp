@@ -10,7 +10,8 @@
 
 /// The attributes of the open project: shared by all its windows, known to the user by name.
 /// Changing them needs no undo step and cannot be undone; inside one it is refused
-/// (UndoScopeMisuse). Defined by whichever host is linked; nothing throws. Main thread only.
+/// (UndoScopeMisuse). Names are 1 to 255 bytes of UTF-8, else BadParameters; one attribute of each
+/// kind has a name. Defined by whichever host is linked; nothing throws. Main thread only.
 namespace Merivane::Host {
 
 enum class AttributeType : std::int32_t {
@@ -21,7 +22,7 @@ enum class AttributeType : std::int32_t {
     LayerCombination = 6,
 };
 
-/// All attributes of a type, in the project's order.
+/// All attributes of a type, in the project's order. BadParameters for no type.
 ErrorCode ListAttributes(AttributeType type, std::vector<AttributeIndex>& indices);
 
 /// The attribute of this name, compared byte for byte. BadName.
@@ -54,6 +55,8 @@ struct LineType {
 };
 
 ErrorCode GetLineType(AttributeIndex index, LineType& lineType);
+
+/// BadParameters for an odd number of lengths, one below 0, or none above 0; AttributeExists.
 ErrorCode CreateLineType(const LineType& lineType, AttributeIndex& index);
 
 enum class FillKind : std::int32_t { Vector = 0, Symbol = 1, Solid = 2, Empty = 3 };
@@ -69,6 +72,8 @@ ErrorCode GetFill(AttributeIndex index, Fill& fill);
 
 /// A surface; `ModelSurface` tells its colour, its diffuse share and its transparency.
 ErrorCode GetSurface(AttributeIndex index, ModelSurface& surface);
+
+/// BadParameters for a channel or share outside [0..1]; AttributeExists.
 ErrorCode CreateSurface(const ModelSurface& surface, AttributeIndex& index);
 
 /// State of one layer in a combination.
@@ -90,7 +95,8 @@ struct LayerCombination {
 
 ErrorCode GetLayerCombination(AttributeIndex index, LayerCombination& combination);
 
-/// BadParameters unless every layer has exactly one state; AttributeExists.
+/// BadParameters unless every layer has exactly one state; RefusedParameters where the first layer
+/// is hidden or locked; AttributeExists, and for a change NameInUse.
 ErrorCode CreateLayerCombination(const LayerCombination& combination, AttributeIndex& index);
 ErrorCode ChangeLayerCombination(AttributeIndex index, const LayerCombination& combination);
 

@@ -291,7 +291,9 @@ enum class ElementFilter : std::uint32_t {
 };
 
 /// The elements of one type (`Any` for all) in the current database, in their order of creation.
-/// Read-only. BadDatabase where that database has no elements.
+/// Read-only. BadDatabase where that database has no elements (the 3D window). A section, elevation
+/// or interior elevation is empty until its window was in front once in the session. Parts
+/// (segments, frames, panels) are listed by their own type, never by `Any`.
 ErrorCode ListElements(ElementType type, ElementFilter filter, std::vector<Guid>& guids);
 
 /// Reads an element of any database. BadId when there is none; `element` is then as it was.
@@ -300,7 +302,8 @@ ErrorCode GetElement(const Guid& guid, Element& element);
 /// Reads parts of an element's memo; the others are left empty. BadId.
 ErrorCode GetMemo(const Guid& guid, MemoParts parts, ElementMemo& memo);
 
-/// Extent of an element [m]; of drawn elements the heights are 0. BadId.
+/// Extent of an element [m]; of drawn elements the heights are 0. BadId; GeneralError for one that
+/// takes no room, such as a part without geometry.
 ErrorCode GetBounds(const Guid& guid, Coordinate3D& lowest, Coordinate3D& highest);
 
 /// The elements of which one is made: segments of columns and beams, frames and panels of curtain
@@ -318,21 +321,33 @@ ErrorCode SetSelection(const std::vector<Guid>& guids);
 
 /// Runs `change` as one step that the user can undo under `name`. Every operation below that
 /// changes elements needs one. Returns what `change` returned; anything but NoError takes back all
-/// that it did. RefusedCommand inside another step; CommandFailed when `change` throws.
+/// that it did to elements, never to attributes. RefusedCommand inside another step; CommandFailed
+/// when `change` throws; NothingToUndo when it succeeded and touched no element.
 ErrorCode CallUndoable(std::string_view name, const std::function<ErrorCode()>& change);
 
 /// Creates an element in the current database; its guid and stamp come back in `element.header`.
 /// NeedsUndoScope; HiddenLayer, LockedLayer, NoSuchLayer; InvalidStory; BadPolygon,
 /// IrregularPolygon; BadIndex (part, attribute); BadParagraphs; RefusedParameters for what the
-/// current database cannot hold (a section or worksheet holds drawn elements only).
+/// current database cannot hold (a section or worksheet holds drawn elements only) and for a lamp's
+/// part on an object or the other way round; BadDatabase for a section that was never in front;
+/// BadParameters for numbers that make no sense, a record of another type, and a parameter of
+/// another type than its part's; NotSupported for types without a record here (walls, slabs).
+/// Parameters are known by name; those that the part lacks are passed over, those not given have
+/// the part's values. Group and lock of `element.header` do not count, and outside the floor plan
+/// the story does not.
 ErrorCode CreateElement(Element& element, const ElementMemo& memo);
 
-/// Replaces an element's own record and the given parts of its memo. Type and guid stay. Codes as
-/// for `CreateElement`; BadId; NotEditable for a locked element.
+/// Replaces an element's own record and the given parts of its memo; of the header its layer and
+/// story alone. Codes as for `CreateElement`; BadId; BadParameters for another type; NotEditable
+/// for a locked element, a part of another one and what a section shows; BadPolygon for another
+/// number of vertices; RefusedParameters for another shape of a spline, and for a text's angle,
+/// anchor or look: delete and create anew. Parameters of another library part that are not given
+/// keep the values that fit.
 ErrorCode ChangeElement(const Element& element, const ElementMemo& memo, MemoParts parts);
 
-/// Deletes all of these elements or, on any failure, none. NeedsUndoScope; BadId; HiddenLayer,
-/// LockedLayer; NotEditable.
+/// Deletes all of these elements or, on any failure, none; a wall with its windows and doors.
+/// NeedsUndoScope; BadId; HiddenLayer, LockedLayer; NotEditable for a locked element, a part of
+/// another one and what a section shows; RefusedParameters for the marker of a section.
 ErrorCode DeleteElements(const std::vector<Guid>& guids);
 
 } // namespace Merivane::Host

@@ -22,18 +22,22 @@ ErrorCode GetTemporaryFolder(std::wstring& path);
 /// `format` is a printf format without arguments, in UTF-8: a percent sign is written "%%".
 void WriteReport(std::string_view format, bool withDialog);
 
-/// Opens the process window over a long work, with so many phases.
+/// Opens the process window over a long work, with so many phases. Nesting while it is open;
+/// BadParameters for less than one phase.
 ErrorCode OpenProcessWindow(std::string_view title, std::int32_t phases);
 
-/// Begins the next phase: its title, and the value at which it is done.
+/// Begins the next phase: its title, and the value at which it is done. NotInitialised without a
+/// process window; BadParameters for a value below 0 and for more phases than were announced.
 ErrorCode BeginProcessPhase(std::string_view title, std::int32_t highest);
 
-/// How far the phase has come, 0 to its highest value.
+/// How far the phase has come, held between 0 and its highest value. NotInitialised without a
+/// phase.
 ErrorCode SetProcessValue(std::int32_t value);
 
 /// Cancelled once the user has asked to stop, else NoError. Ask often: the window lives by it.
 ErrorCode CheckProcessCancelled();
 
+/// NotInitialised when none is open.
 ErrorCode CloseProcessWindow();
 
 /// Shows a folder in the system's file manager. GeneralError when it can't.

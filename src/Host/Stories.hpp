@@ -50,7 +50,7 @@ struct Window {
 ErrorCode GetCurrentWindow(Window& window);
 
 /// Brings a window to front by its type and database, and makes its database the current one.
-/// BadWindow when there is none.
+/// BadWindow when there is none; UndoScopeMisuse inside an undo step.
 ErrorCode ChangeWindow(const Window& window);
 
 /// The database that `ListElements` and `CreateElement` work on; follows the front window.
@@ -60,19 +60,21 @@ ErrorCode GetCurrentDatabase(Window& database);
 /// path. BadDatabase.
 ErrorCode ChangeCurrentDatabase(const Window& database);
 
-/// Shows another floor on the plan. InvalidStory.
+/// Shows another floor on the plan. InvalidStory; UndoScopeMisuse inside an undo step.
 ErrorCode ChangeActiveFloor(std::int16_t floorIndex);
 
 /// The worksheets of the project, in their order.
 ErrorCode ListWorksheets(std::vector<Window>& worksheets);
 
-/// Makes a worksheet of this name and reference. RefusedCommand inside an undo step; NameInUse.
+/// Makes a worksheet of this name and reference, at 1:50. RefusedCommand inside an undo step;
+/// NameInUse; BadParameters for a name that is empty or longer than 255 units of UTF-16.
 ErrorCode CreateWorksheet(std::string_view name, std::string_view reference, Window& worksheet);
 
-/// Scale denominator of the current database: 100 for 1:100.
+/// Scale denominator of the current database: 100 for 1:100. BadDatabase for the 3D window.
 ErrorCode GetDrawingScale(double& scale);
 
-/// BadParameters outside 1 to 30000; refused (UndoScopeMisuse) inside an undo step.
+/// BadParameters outside 1 to 30000; BadDatabase for the 3D window; refused (UndoScopeMisuse)
+/// inside an undo step.
 ErrorCode ChangeDrawingScale(double scale);
 
 } // namespace Merivane::Host
