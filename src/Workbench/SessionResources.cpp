@@ -14,7 +14,7 @@ const Value* Find(std::map<int, Value> ResourceScript::*resources, std::int16_t 
     const ResourceScript* const scripts[] = {&CurrentSession().userInterface.resources,
                                              &OwnResources()};
     for (const ResourceScript* const script : scripts) {
-        const auto found = (script->*resources).find(number);
+        const auto found = (script->*resources).find(static_cast<std::uint16_t>(number));
         if (found != (script->*resources).end()) {
             return &found->second;
         }

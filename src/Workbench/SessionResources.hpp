@@ -13,7 +13,7 @@ namespace Merivane::Workbench {
 /// of in the report window.
 void ReadSessionResources();
 
-/// Resources by their number, or null.
+/// Resources by the 16 bits of their number, or null: 33533 is asked for as -32003.
 const std::vector<std::string>* FindStringList(std::int16_t resource);
 const DialogResource* FindDialog(std::int16_t resource);
 const DialogHelpResource* FindDialogHelp(std::int16_t resource);

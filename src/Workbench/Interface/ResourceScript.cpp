@@ -12,6 +12,7 @@ namespace Merivane::Workbench {
 namespace {
 
 constexpr std::size_t MostAlertButtons = 3;
+constexpr int HighestResource = 65535;
 
 template <typename Value>
 bool Store(ResourceCursor& cursor, std::map<int, Value>& resources, int id, Value value) {
@@ -192,8 +193,12 @@ bool PassOver(ResourceCursor& cursor, const std::string& type, int id, ResourceS
 bool ReadResource(ResourceCursor& cursor, ResourceScript& script) {
     std::string type;
     int id = 0;
-    if (!cursor.ReadType(type) || !cursor.ReadSmallNumber(id)) {
+    if (!cursor.ReadType(type) || !cursor.ReadNumber(id)) {
         return false;
+    }
+    if (id < 1 || id > HighestResource) {
+        return cursor.RefuseLast("o número de um recurso vai de 1 a " +
+                                 std::to_string(HighestResource));
     }
     using Reader = bool (*)(ResourceCursor&, int, ResourceScript&);
     constexpr std::pair<std::string_view, Reader> readers[] = {

@@ -85,7 +85,7 @@ struct IdentityResource {
     bool operator==(const IdentityResource&) const = default;
 };
 
-/// All resources of a script, by number within their type.
+/// All resources of a script, by number (1 to 65535) within their type.
 struct ResourceScript {
     std::map<int, std::vector<std::string>> stringLists; ///< 'STR#'
     std::map<int, std::string> icons;                    ///< 'GICN': base name of the SVG file
