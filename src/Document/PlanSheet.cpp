@@ -32,25 +32,55 @@ double ColumnHeight(const PaperSize& paper) {
     return paper.height - 2.0 * Margin - TitleHeight - FootHeight;
 }
 
-// Blocks laid one below the other into columns, in order. Columns stand from x = 0 to the right,
-// each as wide as its widest block, the head of each at y = 0.
-struct Columns {
-    std::vector<PlacedBlock> placed;
-    double width = 0.0; // of all, with the gaps between them
+// A column of blocks: its left edge, the width of its widest block, and how far down it is filled.
+struct Column {
+    double left = 0.0;
+    double width = 0.0;
+    double depth = 0.0;
 };
 
-Columns FlowBlocks(const std::vector<SheetBlock>& blocks, double columnHeight) {
-    Columns columns;
-    Drawing::Point corner;
-    for (std::size_t k = 0; k < blocks.size(); ++k) {
-        if (corner.y < 0.0 && corner.y - blocks[k].height < -columnHeight) {
-            corner = {columns.width + Gap, 0.0};
+// Blocks laid one below the other into columns, in order. Columns stand from x = 0 to the right,
+// the head of each at y = 0.
+struct Columns {
+    std::vector<PlacedBlock> placed;
+    std::vector<Column> columns;
+};
+
+double ColumnsWidth(const Columns& flow) {
+    return flow.columns.empty() ? 0.0 : flow.columns.back().left + flow.columns.back().width;
+}
+
+bool HasRoom(const Column& column, const SheetBlock& block, double columnHeight) {
+    return column.depth == 0.0 || column.depth + block.height <= columnHeight;
+}
+
+// The column that takes the block: the last one, for one that fills gaps the first that has room
+// and is wide enough; none where a new one is to be begun.
+Column* ColumnFor(Columns& flow, const SheetBlock& block, double columnHeight) {
+    for (Column& column : flow.columns) {
+        const bool isLast = &column == &flow.columns.back();
+        const bool eligible = isLast || (block.fillsGaps && block.width <= column.width);
+        if (eligible && HasRoom(column, block, columnHeight)) {
+            return &column;
         }
-        columns.placed.push_back({k, corner});
-        columns.width = std::max(columns.width, corner.x + blocks[k].width);
-        corner.y -= blocks[k].height + Gap;
     }
-    return columns;
+    return nullptr;
+}
+
+Columns FlowBlocks(const std::vector<SheetBlock>& blocks, double columnHeight) {
+    Columns flow;
+    for (std::size_t k = 0; k < blocks.size(); ++k) {
+        Column* column = ColumnFor(flow, blocks[k], columnHeight);
+        if (column == nullptr) {
+            const double left = flow.columns.empty() ? 0.0 : ColumnsWidth(flow) + Gap;
+            column = &flow.columns.emplace_back();
+            column->left = left;
+        }
+        flow.placed.push_back({k, {column->left, -column->depth}});
+        column->width = std::max(column->width, blocks[k].width);
+        column->depth += blocks[k].height + Gap;
+    }
+    return flow;
 }
 
 double HighestBlock(const std::vector<SheetBlock>& blocks) {
@@ -65,7 +95,7 @@ double HighestBlock(const std::vector<SheetBlock>& blocks) {
 // `paper` has them.
 PaperSize NeededPaper(const Box& bounds, const std::vector<SheetBlock>& blocks, double scale,
                       const PaperSize& paper) {
-    const double columns = FlowBlocks(blocks, ColumnHeight(paper)).width;
+    const double columns = ColumnsWidth(FlowBlocks(blocks, ColumnHeight(paper)));
     const double planWidth = (bounds.right - bounds.left) * 1000.0 / scale + 2.0 * PlanEdge;
     const double planHeight = (bounds.top - bounds.bottom) * 1000.0 / scale + 2.0 * PlanEdge;
     return {2.0 * Margin + planWidth + (columns > 0.0 ? Gap + columns : 0.0),
@@ -157,7 +187,7 @@ PlanSheet ArrangeSheet(const Box& bounds, const std::vector<SheetBlock>& blocks,
     sheet.footArea = {Margin, Margin, right, Margin + FootHeight};
 
     Columns flow = FlowBlocks(blocks, ColumnHeight(choice.paper));
-    const double columns = flow.width;
+    const double columns = ColumnsWidth(flow);
     sheet.blocks = std::move(flow.placed);
     for (PlacedBlock& placed : sheet.blocks) {
         placed.corner.x += right - columns;

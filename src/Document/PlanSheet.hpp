@@ -16,6 +16,7 @@ inline constexpr double ColumnWidth = 70.0;
 struct SheetBlock {
     double width = ColumnWidth; ///< [mm]
     double height = 0.0;        ///< [mm]
+    bool fillsGaps = false;     ///< may stand in a column to the left of those before it
     std::vector<Drawing::Element> elements;
 };
 

@@ -131,6 +131,7 @@ SheetBlock BuildSummaryBlock(const PlanZone& zone) {
 
 SheetBlock BuildNoteBlock(const std::string& note) {
     SheetBlock block;
+    block.fillsGaps = true;
     AppendParagraph(block, note, Remark);
     block.height += Descender;
     return block;

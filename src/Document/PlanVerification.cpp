@@ -28,8 +28,8 @@ struct TabStop {
     double width;
 };
 
-// Wide enough for the longest criterion, "12345 cd/m²", "≤ 1000 cd/m²" and "NÃO ATENDE".
-constexpr std::array<TabStop, 4> Stops = {{{0.0, 36.0}, {38.0, 22.0}, {62.0, 23.0}, {86.5, 21.5}}};
+// Wide enough for the longest criterion, "12345 cd/m²", "≤ 1000 cd/m²" and a bold "NÃO ATENDE".
+constexpr std::array<TabStop, 4> Stops = {{{0.0, 36.0}, {37.5, 22.0}, {60.5, 23.0}, {86.0, 24.0}}};
 
 using Cells = std::array<std::string_view, 4>;
 

@@ -6,7 +6,7 @@
 namespace Merivane::Document {
 
 /// Width of a block with tables of verification: criterion, calculated, required, state [mm].
-inline constexpr double VerificationWidth = 108.0;
+inline constexpr double VerificationWidth = 110.0;
 
 /// Green of what is met, red of what is not; black without data.
 Drawing::Color StateColor(const Simulation::VerificationRow& row);

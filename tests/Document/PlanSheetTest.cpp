@@ -114,6 +114,19 @@ TEST(ArrangeSheet, AColumnIsAsWideAsItsWidestBlock) {
     EXPECT_NEAR(sheet.planArea.right, sheet.blocks[0].corner.x - gap, 1e-9);
 }
 
+TEST(ArrangeSheet, ANoteFillsAColumnThatHasRoomForIt) {
+    std::vector<SheetBlock> blocks = {BlockOf(140), BlockOf(163), BlockOf(17), BlockOf(1)};
+    blocks[2].fillsGaps = true; // 140 + 7 + 17 is just the 164 mm of A4
+    const PlanSheet sheet = ArrangeSheet({0, 0, 1, 1}, blocks, 100.0);
+    ASSERT_EQ(sheet.blocks.size(), 4U);
+    EXPECT_EQ(sheet.blocks[2].corner.x, sheet.blocks[0].corner.x);
+    EXPECT_EQ(sheet.blocks[2].corner.y, sheet.blocks[0].corner.y - 147.0);
+    EXPECT_GT(sheet.blocks[3].corner.x, sheet.blocks[1].corner.x); // it keeps the order
+    blocks[2].height = 17.1;
+    EXPECT_GT(ArrangeSheet({0, 0, 1, 1}, blocks, 100.0).blocks[2].corner.x,
+              sheet.blocks[0].corner.x);
+}
+
 TEST(ArrangeSheet, ABlockHigherThanASheetGetsAHigherOne) {
     const PlanSheet sheet = ArrangeSheet({0, 0, 6, 4}, {BlockOf(300)}, 0.0);
     EXPECT_EQ(sheet.height, 420.0); // A2
