@@ -224,11 +224,14 @@ int Verdict(const SimulateRun& run) {
         return StatusDone;
     }
     const std::string failing = FailingZones(run.document, run.analyses);
-    if (failing.empty()) {
-        return StatusDone;
+    if (!failing.empty()) {
+        TellError("não atende à norma: " + failing);
+        return StatusNotMet;
     }
-    TellError("não atende à norma: " + failing);
-    return StatusNotMet;
+    if (!AnyVerified(run.analyses)) { // a gate that checks nothing should not go unnoticed
+        TellError("nenhuma Zona tem atividade: nada foi verificado");
+    }
+    return StatusDone;
 }
 
 } // namespace

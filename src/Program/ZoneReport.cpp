@@ -100,10 +100,7 @@ void TellZones(const Document::SceneDocument& document, const std::vector<ZoneAn
         return;
     }
     const Widths widths = ColumnWidths(analyses);
-    const bool verified =
-        std::any_of(analyses.begin(), analyses.end(),
-                    [](const ZoneAnalysis& analysis) { return analysis.task != nullptr; });
-    if (verified) {
+    if (AnyVerified(analyses)) {
         TellLine("");
         TellLine("Verificação  —  " + Simulation::ReferenceStandardName(document.standard));
     }
@@ -133,6 +130,12 @@ std::vector<std::string> AnalysisNotices(const Document::SceneDocument& document
         }
     }
     return notices;
+}
+
+bool AnyVerified(const std::vector<ZoneAnalysis>& analyses) {
+    return std::any_of(analyses.begin(), analyses.end(), [](const ZoneAnalysis& analysis) {
+        return !analysis.verification.rows.empty();
+    });
 }
 
 std::string FailingZones(const Document::SceneDocument& document,

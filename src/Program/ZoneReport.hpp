@@ -22,6 +22,9 @@ void TellExplanations(const Document::SceneDocument& document, const Document::B
 std::vector<std::string> AnalysisNotices(const Document::SceneDocument& document,
                                          const std::vector<Document::ZoneAnalysis>& analyses);
 
+/// True when some Zone has a row of verification.
+bool AnyVerified(const std::vector<Document::ZoneAnalysis>& analyses);
+
 /// Names in quotation marks of the Zones with a required row that fails, parted by commas; empty
 /// when there is none.
 std::string FailingZones(const Document::SceneDocument& document,

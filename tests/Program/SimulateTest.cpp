@@ -131,7 +131,7 @@ TEST(Simulate, TellsTheStagesAsLinesWhereThereIsNoTerminal) {
     const SampleRun run;
     const ProgramEnd end = RunVantoro(run.Arguments());
     EXPECT_EQ(end.error, "Preparando a cena (luminárias e geometria)\nPontos de cálculo (" +
-                             std::to_string(13 * 9 + 1) + ")\nObservadores (UGR)\n");
+                             std::to_string(13 * 9 + 1 + 4) + ")\nObservadores (UGR)\n");
 }
 
 TEST(Simulate, IsSilentWhenAskedTo) {
@@ -330,7 +330,7 @@ TEST(Simulate, SaysWhichProgramWasKilledFromOutside) {
     const SampleRun run;
     const ProgramEnd end = RunWithTool(run, "rtrace", RtraceThat("kill -9 $$"));
     EXPECT_EQ(end.status, 1);
-    EXPECT_EQ(end.error, "Preparando a cena (luminárias e geometria)\nPontos de cálculo (118)\n"
+    EXPECT_EQ(end.error, "Preparando a cena (luminárias e geometria)\nPontos de cálculo (122)\n"
                          "vantoro: o cálculo falhou: calculo (rtrace): rtrace terminou com "
                          "erro 137" +
                              run.FilesSentence());
