@@ -1,0 +1,83 @@
+#include "Archicad/FaceReading.hpp"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace Merivane::Archicad {
+
+namespace {
+
+using Simulation::Point3D;
+
+Point3D Place(const Host::Body& body, const Host::Coordinate3D& vertex) {
+    const auto& t = body.transform;
+    const auto row = [&](std::size_t at) {
+        return t[at] * vertex.x + t[at + 1] * vertex.y + t[at + 2] * vertex.z + t[at + 3];
+    };
+    return {row(0), row(4), row(8)};
+}
+
+/// The vertex that an edge begins at, as it is walked; null for an edge that is not there.
+const Host::Coordinate3D* BeginOf(const Host::Body& body, std::int32_t number) {
+    const auto edge = static_cast<std::size_t>(std::int64_t{number} < 0 ? -std::int64_t{number}
+                                                                        : std::int64_t{number});
+    if (edge > body.edges.size()) {
+        return nullptr;
+    }
+    const Host::BodyEdge& walked = body.edges[edge - 1];
+    const std::int32_t vertex = number > 0 ? walked.from : walked.to;
+    const bool known = vertex > 0 && static_cast<std::size_t>(vertex) <= body.vertices.size();
+    return known ? &body.vertices[static_cast<std::size_t>(vertex - 1)] : nullptr;
+}
+
+} // namespace
+
+std::vector<std::vector<Point3D>> ReadContours(const Host::Body& body, const Host::BodyFace& face) {
+    std::vector<std::vector<Point3D>> contours;
+    std::vector<Point3D> contour;
+    bool sound = true;
+    const auto end = [&] {
+        if (sound && contour.size() >= 3) {
+            contours.push_back(contour);
+        }
+        contour.clear();
+        sound = true;
+    };
+    for (const std::int32_t number : face.edges) {
+        if (number == 0) {
+            end();
+        } else if (const Host::Coordinate3D* const vertex = BeginOf(body, number)) {
+            contour.push_back(Place(body, *vertex));
+        } else {
+            sound = false;
+        }
+    }
+    end();
+    return contours;
+}
+
+Point3D NewellNormal(const std::vector<Point3D>& polygon) {
+    Point3D normal;
+    // About the first vertex: far from the project's origin the products would lose digits.
+    for (std::size_t i = 1; i + 1 < polygon.size(); ++i) {
+        const Point3D a{polygon[i].x - polygon[0].x, polygon[i].y - polygon[0].y,
+                        polygon[i].z - polygon[0].z};
+        const Point3D b{polygon[i + 1].x - polygon[0].x, polygon[i + 1].y - polygon[0].y,
+                        polygon[i + 1].z - polygon[0].z};
+        normal.x += a.y * b.z - a.z * b.y;
+        normal.y += a.z * b.x - a.x * b.z;
+        normal.z += a.x * b.y - a.y * b.x;
+    }
+    return normal;
+}
+
+Point3D MeanPlace(const std::vector<Point3D>& places) {
+    Point3D sum;
+    for (const Point3D& place : places) {
+        sum = {sum.x + place.x, sum.y + place.y, sum.z + place.z};
+    }
+    const double count = places.empty() ? 1.0 : static_cast<double>(places.size());
+    return {sum.x / count, sum.y / count, sum.z / count};
+}
+
+} // namespace Merivane::Archicad
