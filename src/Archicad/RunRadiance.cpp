@@ -1,0 +1,110 @@
+#include "Archicad/RunRadiance.hpp"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <limits>
+#include <optional>
+#include <system_error>
+
+#include "AddOn/RunLog/RunLog.hpp"
+#include "Archicad/ProcessWindow.hpp"
+#include "Archicad/StoredSettings.hpp"
+#include "Host/Session.hpp"
+#include "Simulation/EngineSettings.hpp"
+#include "Simulation/Run/RunSimulation.hpp"
+#include "Text/NativePath.hpp"
+#include "Text/Number.hpp"
+#include "Text/Utf8.hpp"
+
+namespace Merivane::Archicad {
+
+namespace {
+
+using Simulation::SimulationOptions;
+using Simulation::SimulationResult;
+using Simulation::SimulationStage;
+
+constexpr std::int32_t StageCount = 4;
+constexpr std::int32_t StepsOfStage = 100;
+
+// Empty, which a run refuses, when the host does not tell its temporary folder.
+std::wstring WorkFolderPath() {
+    std::wstring temporary;
+    if (Host::GetTemporaryFolder(temporary) != Host::NoError) {
+        return {};
+    }
+    std::error_code error;
+    const std::filesystem::path folder =
+        std::filesystem::absolute(Text::NativePath(temporary) / "Vantoro" / "calculo", error);
+    return error ? std::wstring() : Text::WidePath(folder);
+}
+
+SimulationOptions MakeOptions(const Radiance::Installation& installation,
+                              const std::wstring& workFolder) {
+    SimulationOptions options;
+    options.workFolder = workFolder;
+    options.radianceBinFolder = installation.binFolder;
+    options.radianceLibFolder = installation.libFolder;
+    options.engine = LoadEngineSettings();
+    return options;
+}
+
+SimulationResult RunUnderWindow(const Simulation::Scene& scene, const SimulationOptions& options,
+                                ProcessWindow& window) {
+    std::optional<SimulationStage> lastStage;
+    const auto showProgress = [&](SimulationStage stage, double fraction) {
+        if (stage != lastStage) {
+            window.BeginPhase(Simulation::StageTitle(stage, Simulation::TotalPointCount(scene)),
+                              StepsOfStage);
+            lastStage = stage;
+        }
+        window.Show(static_cast<std::int32_t>(fraction * StepsOfStage + 0.5));
+    };
+    return Simulation::RunSimulation(
+        scene, options, [&window] { return window.IsCancelled(); },
+        [](const std::string& line) { Commands::ReportLine(line); }, showProgress);
+}
+
+void RememberRun(std::uint64_t points, double seconds, const Simulation::EngineSettings& engine) {
+    Simulation::LastRunRecord record;
+    record.valid = true;
+    record.points = static_cast<std::int32_t>(
+        std::min<std::uint64_t>(points, std::numeric_limits<std::int32_t>::max()));
+    record.seconds = seconds;
+    record.costFactor = Simulation::CostFactor(engine);
+    Commands::CheckError("Guardar a duracao do calculo", SaveLastRun(record));
+}
+
+} // namespace
+
+bool RunRadiance(const Simulation::Scene& scene, const Radiance::Installation& installation,
+                 SimulationResult& result, std::string& workFolderText) {
+    const std::wstring workFolder = WorkFolderPath();
+    workFolderText = Text::Narrow(workFolder);
+    const SimulationOptions options = MakeOptions(installation, workFolder);
+    std::chrono::duration<double> elapsed{};
+    {
+        ProcessWindow window("Vantoro: cálculo de iluminação", StageCount);
+        Commands::ReportLine("motor: " + Simulation::EngineSummary(options.engine));
+        const auto start = std::chrono::steady_clock::now();
+        result = RunUnderWindow(scene, options, window);
+        elapsed = std::chrono::steady_clock::now() - start;
+    }
+    if (result.cancelled) {
+        Commands::ReportLine("calculo cancelado - nada foi desenhado.");
+        return false;
+    }
+    if (!result.success) {
+        Commands::Alert("O calculo falhou: " + result.error + "\nArquivos em: " + workFolderText);
+        return false;
+    }
+    const std::uint64_t points = Simulation::PlanePointCount(scene);
+    RememberRun(points, elapsed.count(), options.engine);
+    Commands::ReportLine("Radiance: " + std::to_string(points) + " ponto(s) em " +
+                         Text::FormatFixed(elapsed.count(), 0) + " s");
+    return true;
+}
+
+} // namespace Merivane::Archicad
