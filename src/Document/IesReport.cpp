@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "Document/JsonParts.hpp"
 #include "Photometry/IesReader.hpp"
 #include "Photometry/IesText.hpp"
 #include "Photometry/OpeningCodes.hpp"
@@ -145,22 +146,6 @@ void AppendHeader(const IesReport& report, std::vector<std::string>& lines) {
     for (const std::string& line : file.otherLines) {
         lines.push_back(Row("Texto", line));
     }
-}
-
-JsonValue Texts(const std::vector<std::string>& texts) {
-    JsonValue list = JsonValue::MakeArray();
-    for (const std::string& text : texts) {
-        list.items.push_back(JsonValue::MakeString(text));
-    }
-    return list;
-}
-
-JsonValue Numbers(const std::vector<double>& values) {
-    JsonValue list = JsonValue::MakeArray();
-    for (const double value : values) {
-        list.items.push_back(JsonValue::MakeNumber(value));
-    }
-    return list;
 }
 
 JsonValue KeywordsJson(const IesFile& file) {

@@ -66,6 +66,20 @@ TEST(PlanAssembly, OneFloorHoldsItsZonesWithTheirValues) {
     EXPECT_EQ(zone.borderBand, 0.5);
 }
 
+TEST(PlanAssembly, AZoneCarriesItsVerdict) {
+    const std::vector<FloorPlan> plans = PlansOf(
+        R"({"formato": 1, "norma": "iso", "zonas": [{"nome": "Sala", "altura": 3, "contorno":
+           [[0, 0], [4, 0], [4, 4], [0, 4]], "atividade": "s22.2", "calcularTeto": true}]})");
+    const PlanVerdict& verdict = plans[0].contents.zones[0].verdict;
+    EXPECT_EQ(verdict.activity, "Escrever, teclar, ler, processar dados");
+    EXPECT_EQ(verdict.standard, "ISO/CIE 8995-1:2002");
+    ASSERT_FALSE(verdict.rows.empty());
+    EXPECT_EQ(verdict.rows[0].calculated, "100 lx");
+    EXPECT_EQ(verdict.notes, std::vector<std::string>{"UGR: nenhuma luminária Vantoro sobre a "
+                                                      "Zona."});
+    EXPECT_EQ(verdict.surfaces.size(), 2U);
+}
+
 TEST(PlanAssembly, FloorsGoFromTheLowestUp) {
     const std::vector<FloorPlan> plans = PlansOf(Document(
         Zone("Alto", 3, 2.8) + ", " + Zone("Baixo", 0, 2.8) + ", " + Zone("Porao", -3, 2.5)));
