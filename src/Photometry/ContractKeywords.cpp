@@ -12,7 +12,9 @@ namespace {
 
 constexpr std::size_t Longest = LongestContractText;
 constexpr std::string_view MoreKey = "MORE";
+constexpr std::string_view MorePrefix = "[MORE] ";
 constexpr std::string_view OtherKey = "OTHER";
+constexpr std::size_t RoomBehindMore = Longest - MorePrefix.size();
 
 // "[", "] " and one character of four bytes: with a longer key no piece would get on.
 constexpr std::size_t LongestKey = Longest - 3 - 4;
@@ -21,27 +23,29 @@ std::string PrefixOf(std::string_view key) {
     return "[" + Text::TruncateUtf8(key, LongestKey) + "] ";
 }
 
-/// Appends `line` in pieces that fit behind `prefix`; an empty line is one empty piece.
+/// Appends `line` in pieces: the first of an entry, where `pieces` is empty, of at most `room`
+/// bytes and the others so short that MORE fits before them as well. An empty line is one empty
+/// piece.
 void AppendPieces(std::string_view line, std::size_t room, std::vector<std::string>& pieces) {
     do {
-        pieces.push_back(Text::TruncateUtf8(line, room));
+        const std::size_t most = pieces.empty() ? room : std::min(room, RoomBehindMore);
+        pieces.push_back(Text::TruncateUtf8(line, most));
         line.remove_prefix(pieces.back().size());
     } while (!line.empty());
 }
 
 void AppendEntry(std::string_view key, std::string_view value, std::vector<std::string>& texts) {
     const std::string prefix = PrefixOf(key);
-    const std::string more = PrefixOf(MoreKey);
     std::vector<std::string> pieces;
     std::size_t end = value.find('\n');
     AppendPieces(value.substr(0, end), Longest - prefix.size(), pieces);
     while (end != std::string_view::npos) {
         value.remove_prefix(end + 1);
         end = value.find('\n');
-        AppendPieces(value.substr(0, end), Longest - more.size(), pieces);
+        AppendPieces(value.substr(0, end), RoomBehindMore, pieces);
     }
     for (std::size_t i = 0; i < pieces.size(); ++i) {
-        texts.push_back((i == 0 ? prefix : more) + pieces[i]);
+        texts.push_back((i == 0 ? prefix : std::string(MorePrefix)) + pieces[i]);
     }
 }
 

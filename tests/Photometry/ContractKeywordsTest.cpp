@@ -51,6 +51,13 @@ TEST(PackIesKeywords, MeasuresEveryPieceOfALineByThePrefixOfTheLine) {
               (Texts{"[" + key + "] a", "[MORE] " + std::string(248, 'x'), "[MORE] x"}));
 }
 
+// A short key leaves its first piece more room than MORE leaves the next.
+TEST(PackIesKeywords, KeepsThePiecesOfAShortKeyWithinTheHostsLimit) {
+    EXPECT_EQ(
+        Pack({{"RA", std::string(500, 'x')}}),
+        (Texts{"[RA] " + std::string(250, 'x'), "[MORE] " + std::string(248, 'x'), "[MORE] xx"}));
+}
+
 TEST(PackIesKeywords, CutsNoCharacter) {
     const std::string almost(247, 'a');
     EXPECT_EQ(Pack({{"LAMP", almost + "çb"}}), (Texts{"[LAMP] " + almost, "[MORE] çb"}));
