@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "Host/Dialog.hpp"
+
+namespace Merivane {
+
+/// A palette of the add-on; it is made when it is first shown.
+struct PaletteState {
+    std::optional<Host::DialogId> dialog; ///< none until it is made
+    bool shownBeforeHiding = false;       ///< to be shown again with all palettes
+};
+
+/// All that the add-on keeps while it is loaded.
+struct AddOnState {
+    std::string name; ///< the host reads these two after `CheckEnvironment` has returned
+    std::string description;
+    /// Of the menus that were registered. The host may load the add-on anew behind the
+    /// registration; there is none then.
+    std::optional<std::int16_t> menuThemeOffset;
+    PaletteState toolbar;
+};
+
+AddOnState& CurrentAddOnState();
+
+} // namespace Merivane

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace Merivane::Commands {
+
+/// Has the user choose how hard the calculation works, for all projects.
+void ConfigureEngine();
+
+} // namespace Merivane::Commands

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstdint>
+
+/// Numbers of the add-on's resources and of the items in its dialogs, as the folder `resources` has
+/// them. Menus are numbered in the table of menus, buttons of the toolbar in its own table.
+namespace Merivane::ResourceIds {
+
+/// Name of the add-on and what it does, strings of one list.
+inline constexpr std::int16_t AddOnStrings = 32000;
+inline constexpr std::int16_t NameString = 1;
+inline constexpr std::int16_t DescriptionString = 2;
+
+/// The product's mark in its light form.
+inline constexpr std::int16_t LightMarkIcon = 10203;
+
+/// The toolbar palette.
+inline constexpr std::int16_t Toolbar = 32750;
+
+namespace Engine {
+inline constexpr std::int16_t Dialog = 32650;
+inline constexpr std::int16_t AdvancedBox = 2;
+inline constexpr std::int16_t Profile = 4;
+inline constexpr std::int16_t Description = 5;
+inline constexpr std::int16_t TimeLine = 6;
+inline constexpr std::int16_t ShowAdvanced = 7;
+inline constexpr std::int16_t FirstAdvanced = 8;
+inline constexpr std::int16_t Bounces = 9;
+inline constexpr std::int16_t Divisions = 12;
+inline constexpr std::int16_t Supersamples = 15;
+inline constexpr std::int16_t Resolution = 18;
+inline constexpr std::int16_t Accuracy = 21;
+inline constexpr std::int16_t LimitWeight = 24;
+inline constexpr std::int16_t MaxProcesses = 27;
+inline constexpr std::int16_t LastAdvanced = 28;
+inline constexpr std::int16_t Warnings = 29;
+inline constexpr std::int16_t BackToProfile = 30;
+inline constexpr std::int16_t Accept = 31;
+inline constexpr std::int16_t Cancel = 32;
+} // namespace Engine
+
+namespace RadianceCheck {
+inline constexpr std::int16_t Dialog = 32760;
+inline constexpr std::int16_t Close = 1;
+inline constexpr std::int16_t Verdict = 2;
+inline constexpr std::int16_t InstallationBox = 4;
+inline constexpr std::int16_t ToolsBox = 6;
+inline constexpr std::int16_t TestBox = 8;
+inline constexpr std::int16_t TestAgain = 9;
+inline constexpr std::int16_t OpenFolder = 10;
+} // namespace RadianceCheck
+
+namespace Reflectance {
+inline constexpr std::int16_t Dialog = 32630;
+inline constexpr std::int16_t Accept = 1;
+inline constexpr std::int16_t Cancel = 2;
+inline constexpr std::int16_t Head = 3;
+inline constexpr std::int16_t Surfaces = 4;
+inline constexpr std::int16_t Name = 5;
+inline constexpr std::int16_t Used = 7;
+inline constexpr std::int16_t UseEstimate = 8;
+inline constexpr std::int16_t Glass = 9;
+inline constexpr std::int16_t Transmittance = 11;
+inline constexpr std::int16_t Inside = 13;
+inline constexpr std::int16_t Outside = 15;
+inline constexpr std::int16_t Explanation = 16;
+inline constexpr std::int16_t GlassNote = 17;
+inline constexpr std::int16_t Remember = 18;
+} // namespace Reflectance
+
+namespace ZoneRequirement {
+inline constexpr std::int16_t Dialog = 32640;
+inline constexpr std::int16_t Accept = 1;
+inline constexpr std::int16_t Cancel = 2;
+inline constexpr std::int16_t Standard = 4;
+inline constexpr std::int16_t Zones = 5;
+inline constexpr std::int16_t Section = 7;
+inline constexpr std::int16_t Activity = 8;
+inline constexpr std::int16_t Illuminance = 10;
+inline constexpr std::int16_t Uniformity = 12;
+inline constexpr std::int16_t Screens = 14;
+inline constexpr std::int16_t UseForAll = 15;
+inline constexpr std::int16_t Note = 16;
+inline constexpr std::int16_t Explanation = 17;
+} // namespace ZoneRequirement
+
+} // namespace Merivane::ResourceIds
