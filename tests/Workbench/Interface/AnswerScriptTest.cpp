@@ -1,0 +1,92 @@
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "Workbench/Interface/AnswerScript.hpp"
+
+namespace Merivane::Workbench {
+namespace {
+
+TEST(AnswerScript, ReadsDialogsAndAlerts) {
+    AnswerScript script;
+    std::string error;
+    ASSERT_TRUE(ParseAnswerScript(R"([
+        {"dialogo": "Vantoro: prova", "botao": "OK", "itens": [
+            {"item": 4, "entrada": 2}, {"item": 4, "entrada": "Projeto"},
+            {"item": 9, "valor": 2.5}, {"item": 7, "marcado": false},
+            {"item": 5, "texto": ""}, {"item": 6, "linha": "Sala", "clicarDuasVezes": true},
+            {"item": 30, "clicar": true}]},
+        {"dialogo": 32650, "fechar": true},
+        {"dialogo": 32650},
+        {"alerta": "Nada", "botao": 2}])",
+                                  script, error))
+        << error;
+    ASSERT_EQ(script.size(), 4U);
+    const DialogAnswer& first = script[0];
+    EXPECT_EQ(first.dialog, (NumberOrText{0, "Vantoro: prova"}));
+    EXPECT_EQ(first.button, (NumberOrText{0, "OK"}));
+    ASSERT_EQ(first.items.size(), 7U);
+    EXPECT_EQ(first.items[0].entry, (NumberOrText{2, ""}));
+    EXPECT_EQ(first.items[1].entry, (NumberOrText{0, "Projeto"}));
+    EXPECT_EQ(first.items[2].value, 2.5);
+    EXPECT_EQ(first.items[3].checked, false);
+    EXPECT_EQ(first.items[4].text, "");
+    EXPECT_EQ(first.items[5].row, (NumberOrText{0, "Sala"}));
+    EXPECT_TRUE(first.items[5].doubleClick);
+    EXPECT_TRUE(first.items[6].click);
+    EXPECT_TRUE(script[1].close);
+    EXPECT_EQ(script[2].dialog, (NumberOrText{32650, ""}));
+    EXPECT_FALSE(script[2].button);
+    EXPECT_TRUE(script[3].alert);
+    EXPECT_EQ(script[3].button, (NumberOrText{2, ""}));
+}
+
+TEST(AnswerScript, RefusesWithThePlace) {
+    struct Case {
+        std::string text;
+        std::string error;
+    };
+    const Case cases[] = {
+        {"{", "o arquivo de respostas não é JSON: esperava o nome de um membro (byte 1)"},
+        {"{}", "documento: espera-se uma lista de itens, mas há um objeto"},
+        {"[5]", "[0]: espera-se um objeto, mas há 5"},
+        {"[{}]", "[0]: falta a chave \"dialogo\""},
+        {R"([{"dialogo": true}])", "[0].dialogo: espera-se um número ou um texto, mas há true"},
+        {R"([{"dialogo": ""}])",
+         "[0].dialogo: espera-se um número ou um texto, mas há o texto \"\""},
+        {R"([{"dialogo": 0}])", "[0].dialogo: espera-se um número inteiro de 1 a 32767, mas há 0"},
+        {R"([{"dialogo": 32768}])",
+         "[0].dialogo: espera-se um número inteiro de 1 a 32767, mas há 32768"},
+        {R"([{"dialogo": 1, "itens": 3}])", "[0].itens: espera-se uma lista de itens, mas há 3"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2.5, "clicar": true}]}])",
+         "[0].itens[0].item: espera-se um número inteiro de 1 a 32767, mas há 2.5"},
+        {R"([{"dialogo": 1, "itens": [{"valor": 2}]}])", "[0].itens[0]: falta a chave \"item\""},
+        {R"([{"dialogo": 1, "itens": [{"item": 2}]}])",
+         "[0].itens[0]: falta dizer o que se faz com o item"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "clicar": false}]}])",
+         "[0].itens[0]: falta dizer o que se faz com o item"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "valr": 1}]}])",
+         "[0].itens[0]: chave desconhecida \"valr\" (talvez \"valor\")"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "valor": "1"}]}])",
+         "[0].itens[0].valor: espera-se um número, mas há o texto \"1\""},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "texto": 1}]}])",
+         "[0].itens[0].texto: espera-se um texto em UTF-8, mas há 1"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "marcado": 1}]}])",
+         "[0].itens[0].marcado: espera-se true ou false, mas há 1"},
+        {R"([{"dialogo": 1, "botao": 1, "fechar": true}])",
+         "[0]: \"botao\" e \"fechar\" não vêm juntos"},
+        {R"([{"alerta": "a", "itens": []}])",
+         "[0]: chave desconhecida \"itens\" na resposta a um alerta"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.text);
+        AnswerScript script(1);
+        std::string error;
+        EXPECT_FALSE(ParseAnswerScript(c.text, script, error));
+        EXPECT_EQ(error, c.error);
+        EXPECT_EQ(script.size(), 1U);
+    }
+}
+
+} // namespace
+} // namespace Merivane::Workbench
