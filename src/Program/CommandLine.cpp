@@ -4,12 +4,14 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
 #include "Program/ArgumentValues.hpp"
+#include "Program/CommandChoice.hpp"
 #include "Program/Version.hpp"
 
 namespace Merivane::Program {
@@ -26,11 +28,13 @@ struct RawLine {
     IesArguments ies;
     UgrArguments ugr;
     TasksArguments tasks;
+    RunArguments run;
     std::string scale;
     std::string palette;
     std::string values;
     std::string height;
     std::vector<std::string> taskWords;
+    std::string command;
     std::vector<Judgement> judgements;
 };
 
@@ -141,6 +145,45 @@ CLI::App* AddTasks(CLI::App& app, RawLine& line) {
     return command;
 }
 
+CLI::App* AddRun(CLI::App& app, RawLine& line) {
+    CLI::App* command = app.add_subcommand("executar", "Executa um comando do menu em um projeto");
+    Prepare(*command);
+    RunArguments& arguments = line.run;
+    command->add_option("COMANDO", line.command, "Número do comando, ou parte do seu texto")
+        ->required()
+        ->type_name("");
+    command
+        ->add_option("PROJETO", arguments.projectFile,
+                     "Projeto (.vantoro); gravado se o comando o mudar")
+        ->type_name("");
+    command
+        ->add_option("--respostas", arguments.answerFile,
+                     "Respostas aos diálogos (JSON); sem elas são aceitos como estão")
+        ->type_name("ARQUIVO");
+    command->add_flag("--mostrar-dialogos", arguments.showDialogs,
+                      "Mostra como ficou cada diálogo");
+    command
+        ->add_option("--imagens", arguments.imageFolder,
+                     "Grava nesta pasta uma imagem (PNG) de cada diálogo")
+        ->type_name("PASTA");
+    command
+        ->add_option("--salvar-como", arguments.saveAs,
+                     "Grava o projeto neste arquivo, e não no seu")
+        ->type_name("ARQUIVO");
+    line.judgements.emplace_back([command, &line](std::string& error) {
+        if (!command->parsed()) {
+            return true;
+        }
+        if (!line.run.saveAs.empty() && line.run.projectFile.empty()) {
+            error = "--salvar-como: falta PROJETO";
+            return false;
+        }
+        return JudgeCommand(line.command, line.run.command, error) &&
+               JudgeProjectOf(line.run.command, line.run.projectFile, error);
+    });
+    return command;
+}
+
 std::string Before(const std::string& text, std::string_view mark) {
     return text.substr(0, text.find(mark));
 }
@@ -212,6 +255,9 @@ CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
     CLI::App* check = app.add_subcommand("verificar-radiance",
                                          "Verifica a instalação do Radiance com um teste exato");
     Prepare(*check);
+    CLI::App* list = app.add_subcommand("comandos", "Mostra o menu: grupos, números e textos");
+    Prepare(*list);
+    const CLI::App* run = AddRun(app, line);
     for (CLI::App* command : app.get_subcommands({})) {
         command->group("Comandos");
     }
@@ -240,16 +286,19 @@ CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
             return WrongUse(error, app);
         }
     }
-    if (simulate->parsed()) {
-        result.request = line.simulate;
-    } else if (ies->parsed()) {
-        result.request = line.ies;
-    } else if (ugr->parsed()) {
-        result.request = line.ugr;
-    } else if (tasks->parsed()) {
-        result.request = line.tasks;
-    } else {
-        result.request = CheckRadianceArguments{};
+    const std::pair<const CLI::App*, Request> requests[] = {
+        {simulate, line.simulate},
+        {ies, line.ies},
+        {ugr, line.ugr},
+        {tasks, line.tasks},
+        {check, CheckRadianceArguments{}},
+        {list, ListCommandsArguments{}},
+        {run, line.run},
+    };
+    for (const auto& [command, request] : requests) {
+        if (command->parsed()) {
+            result.request = request;
+        }
     }
     return result;
 }

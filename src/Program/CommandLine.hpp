@@ -55,9 +55,23 @@ struct TasksArguments {
 /// `vantoro verificar-radiance`: the installation check.
 struct CheckRadianceArguments {};
 
+/// `vantoro comandos`: the menu of the add-on.
+struct ListCommandsArguments {};
+
+/// `vantoro executar`: a command of that menu, on a project.
+struct RunArguments {
+    std::int16_t command = 0; ///< number
+    std::string projectFile;  ///< empty = none; the command needs none then
+    std::string answerFile;   ///< answers to its dialogs; empty = they are accepted as they stand
+    bool showDialogs = false; ///< tell each dialog's last state
+    std::string imageFolder;  ///< of a picture of each dialog; empty = none are drawn
+    std::string saveAs;       ///< empty = the project's own file, where the command changed it
+};
+
 /// What was asked for on the command line; the first alternative when nothing is left to do.
-using Request = std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments,
-                             TasksArguments, CheckRadianceArguments>;
+using Request =
+    std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments, TasksArguments,
+                 CheckRadianceArguments, ListCommandsArguments, RunArguments>;
 
 /// How reading the command line ended.
 struct CommandLineResult {

@@ -11,5 +11,7 @@ int IesCommand(const IesArguments& arguments);
 int UgrCommand(const UgrArguments& arguments);
 int TasksCommand(const TasksArguments& arguments);
 int CheckRadianceCommand(const CheckRadianceArguments& arguments);
+int ListCommandsCommand(const ListCommandsArguments& arguments);
+int RunCommand(const RunArguments& arguments);
 
 } // namespace Merivane::Program

@@ -26,6 +26,10 @@ struct RunRequest {
     int operator()(const CheckRadianceArguments& arguments) const {
         return CheckRadianceCommand(arguments);
     }
+    int operator()(const ListCommandsArguments& arguments) const {
+        return ListCommandsCommand(arguments);
+    }
+    int operator()(const RunArguments& arguments) const { return RunCommand(arguments); }
 };
 
 int RunProgram(const std::vector<std::string>& arguments) {
