@@ -27,8 +27,9 @@ bool CheckCount(const Place& place, const LibraryParameter& parameter, std::stri
         return true;
     }
     return RefuseValue(place,
-                       "uma lista de " + std::to_string(count) + " valores, " +
-                           std::to_string(parameter.dim1) + " linhas de " + std::to_string(columns),
+                       "uma lista de " + std::to_string(count) +
+                           (count == 1 ? " valor (" : " valores (") +
+                           std::to_string(parameter.dim1) + " x " + std::to_string(columns) + ')',
                        error);
 }
 
