@@ -175,6 +175,7 @@ SampleScene Office() {
     JsonValue meeting = Zone("Sala de reunião", MeetingRoom, OfficeHeight);
     JsonValue passage = Zone("Circulação", Passage, OfficeHeight);
     passage.Set("planoDeTrabalho", JsonValue::MakeNumber(0.1)); // one walks here
+    passage.Set("espacamento", JsonValue::MakeNumber(0.25));
 
     std::vector<JsonValue> materials = OpaqueMaterials();
     // Of each pane's two faces: 0.88 and 0.36 through both.
