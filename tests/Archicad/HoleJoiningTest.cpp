@@ -64,6 +64,40 @@ int Crossings(const Contour& ring) {
     return crossings;
 }
 
+/// Angle from one direction to another, counter-clockwise [0..2 pi).
+double AngleBetween(Point2D from, Point2D to) {
+    const double angle = std::atan2(from.x * to.y - from.y * to.x, from.x * to.x + from.y * to.y);
+    return angle < -1e-9 ? angle + 2.0 * std::numbers::pi : std::max(angle, 0.0);
+}
+
+/// Pairs of visits to one place that go through each other there.
+int CrossedVisits(const Contour& ring) {
+    const auto neighbour = [&](std::size_t at, std::size_t step) {
+        const Point2D place = ring[(at + step) % ring.size()];
+        return Point2D{place.x - ring[at].x, place.y - ring[at].y};
+    };
+    int crossed = 0;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        for (std::size_t j = i + 1; j < ring.size(); ++j) {
+            if (!(ring[i] == ring[j])) {
+                continue;
+            }
+            // Where the other visit comes from and goes to, as seen from this one's way out.
+            const Point2D out = neighbour(i, 1);
+            const double in = AngleBetween(out, neighbour(i, ring.size() - 1));
+            int inside = 0;
+            int outside = 0;
+            for (const Point2D way : {neighbour(j, 1), neighbour(j, ring.size() - 1)}) {
+                const double angle = AngleBetween(out, way);
+                inside += angle > 1e-9 && angle < in - 1e-9 ? 1 : 0;
+                outside += angle > in + 1e-9 && angle < 2.0 * std::numbers::pi - 1e-9 ? 1 : 0;
+            }
+            crossed += inside == 1 && outside == 1 ? 1 : 0;
+        }
+    }
+    return crossed;
+}
+
 /// Even-odd: inside an odd number of rings.
 bool Covers(const std::vector<Contour>& rings, Point2D place) {
     bool inside = false;
@@ -100,6 +134,7 @@ void ExpectSameCover(const std::vector<Contour>& contours, double area) {
     const Contour joined = Join(contours);
     EXPECT_NEAR(SignedArea(joined), area, 1e-9);
     EXPECT_EQ(Crossings(joined), 0);
+    EXPECT_EQ(CrossedVisits(joined), 0);
     std::mt19937 random(11);
     std::uniform_real_distribution<double> between(-0.5, 10.5);
     for (int i = 0; i < 500; ++i) {
@@ -170,6 +205,23 @@ TEST(JoinHoles, FindsItsWayAroundCornersOfTheOutline) {
                              {4, 5.1}, {4, 9},  {10, 9}, {10, 10}, {0, 10}};
     const double area = SignedArea(outline);
     ExpectSameCover({outline, Rectangle(1, 1, 1, 1), Rectangle(2, 4, 1.5, 2)}, area - 4.0);
+}
+
+TEST(JoinHoles, LeadsManyCutsToOneCorner) {
+    const Contour outline = {{0, 0}, {10, 5}, {0, 10}};
+    const std::vector<Contour> holes = {Rectangle(1, 6, 1, 1), Rectangle(1, 3, 1, 1),
+                                        Rectangle(3, 5.5, 0.5, 0.5), Rectangle(3, 4, 0.5, 0.5),
+                                        Rectangle(0.5, 4.8, 0.5, 0.4)};
+    std::vector<Contour> contours = {outline};
+    contours.insert(contours.end(), holes.begin(), holes.end());
+    ExpectSameCover(contours, 50.0 - 2.0 - 0.5 - 0.2);
+    // Islands in one hole whose cuts end at one corner of it.
+    ExpectSameCover({Rectangle(0, 0, 10, 10),
+                     {{1, 1}, {9, 5}, {1, 9}},
+                     Rectangle(2, 6, 0.5, 0.5),
+                     Rectangle(2, 3.5, 0.5, 0.5),
+                     Rectangle(1.5, 4.8, 0.5, 0.4)},
+                    100.0 - 32.0 + 0.5 + 0.2);
 }
 
 TEST(JoinHoles, CoversWhatLiesInAHoleOfAHole) {
