@@ -21,7 +21,7 @@ constexpr MenuGroup Groups[] = {
 /// host has: a number of the other one keeps working.
 std::int16_t LightResource(std::int16_t menuResource) {
     for (const MenuGroup& group : Groups) {
-        if (menuResource == group.resourceId + DarkMenuOffset) {
+        if (menuResource == MenuResource(group, DarkMenuOffset)) {
             return group.resourceId;
         }
     }
@@ -36,6 +36,10 @@ std::span<const MenuGroup> MenuTable() {
 
 std::int16_t MenuThemeOffset() {
     return Host::IsDarkMode() ? DarkMenuOffset : std::int16_t{0};
+}
+
+std::int16_t MenuResource(const MenuGroup& group, std::int16_t themeOffset) {
+    return static_cast<std::int16_t>(group.resourceId + themeOffset);
 }
 
 std::int16_t FindMenuCommand(std::int16_t menuResource, std::int32_t item) {

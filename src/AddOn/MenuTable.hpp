@@ -28,6 +28,10 @@ std::span<const MenuGroup> MenuTable();
 /// What is added to `MenuGroup::resourceId` in the interface that the host has now.
 std::int16_t MenuThemeOffset();
 
+/// The resource of a group in the interface with that offset. Those of the dark interface are above
+/// 32767: they stand as the negative number of the same 16 bits, which is how the host passes them.
+std::int16_t MenuResource(const MenuGroup& group, std::int16_t themeOffset);
+
 /// The command of an item, counted from 1, of a menu resource of either interface; 0 when there is
 /// none.
 std::int16_t FindMenuCommand(std::int16_t menuResource, std::int32_t item);

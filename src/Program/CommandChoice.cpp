@@ -79,7 +79,7 @@ MenuPlace FindMenuPlace(std::int16_t number) {
         const auto* const end = group.commands.begin() + group.itemCount;
         const auto* const found = std::find(group.commands.begin(), end, number);
         if (found != end) {
-            return {static_cast<std::int16_t>(group.resourceId + Commands::MenuThemeOffset()),
+            return {Commands::MenuResource(group, Commands::MenuThemeOffset()),
                     static_cast<std::int16_t>(found - group.commands.begin() + 1)};
         }
     }

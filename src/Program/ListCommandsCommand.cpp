@@ -13,8 +13,8 @@ namespace Merivane::Program {
 namespace {
 
 Workbench::MenuTexts TextsOf(const Commands::MenuGroup& group) {
-    const std::vector<std::string>* const strings = Workbench::FindStringList(
-        static_cast<std::int16_t>(group.resourceId + Commands::MenuThemeOffset()));
+    const std::vector<std::string>* const strings =
+        Workbench::FindStringList(Commands::MenuResource(group, Commands::MenuThemeOffset()));
     return strings ? Workbench::ReadMenuTexts(*strings) : Workbench::MenuTexts{};
 }
 

@@ -1,5 +1,6 @@
 #include "Workbench/SessionResources.hpp"
 
+#include <cstdint>
 #include <map>
 
 #include "Workbench/Interface/OwnResources.hpp"

@@ -32,7 +32,7 @@ std::int16_t RegisteredThemeOffset() {
 Host::ErrorCode InstallMenuHandlers() {
     const std::int16_t offset = RegisteredThemeOffset();
     for (const Commands::MenuGroup& group : Commands::MenuTable()) {
-        const auto resource = static_cast<std::int16_t>(group.resourceId + offset);
+        const std::int16_t resource = Commands::MenuResource(group, offset);
         if (const auto code = Host::InstallMenuHandler(resource, Commands::MenuCommandHandler)) {
             return code;
         }
@@ -65,7 +65,7 @@ Host::ErrorCode RegisterInterface() {
     const std::int16_t offset = Commands::MenuThemeOffset();
     CurrentAddOnState().menuThemeOffset = offset;
     for (const Commands::MenuGroup& group : Commands::MenuTable()) {
-        const auto resource = static_cast<std::int16_t>(group.resourceId + offset);
+        const std::int16_t resource = Commands::MenuResource(group, offset);
         const bool separatorBefore = group.resourceId == Commands::ToolbarMenuGroup;
         if (const Host::ErrorCode code = Host::RegisterMenu(resource, separatorBefore)) {
             return code;
