@@ -183,12 +183,15 @@ struct ListSizes {
 };
 
 ListSizes SizesOf(const DialogItem& item) {
+    constexpr int least = 12;
+    constexpr int most = 100;
     ListSizes sizes;
-    if (!item.resource.numbers.empty()) {
-        sizes.row = std::max(item.resource.numbers[0], 12);
+    const std::vector<int>& numbers = item.resource.numbers;
+    if (!numbers.empty()) {
+        sizes.row = std::clamp(numbers[0], least, most);
     }
     if (HasStyle(item.resource, "HasHeader")) {
-        sizes.header = item.resource.numbers.size() > 1 ? item.resource.numbers[1] : sizes.row;
+        sizes.header = numbers.size() > 1 ? std::clamp(numbers[1], least, most) : sizes.row;
     }
     return sizes;
 }
