@@ -35,14 +35,14 @@ int Rounded(double number) {
 /// reads are left out.
 class Reader {
 public:
-    Reader(const std::vector<ContractParameter>& parameters, std::string& error)
-        : _parameters(parameters), _error(error) {}
+    Reader(const std::vector<ContractParameter>& fromParameters, std::string& toError)
+        : parameters(fromParameters), error(toError) {}
 
-    bool Good() const { return _error.empty(); }
+    bool Good() const { return error.empty(); }
 
-    void Refuse(std::string error) {
+    void Refuse(std::string reason) {
         if (Good()) {
-            _error = std::move(error);
+            error = std::move(reason);
         }
     }
 
@@ -85,7 +85,7 @@ public:
 
 private:
     const ContractParameter* Find(std::string_view name) const {
-        return FindParameter(_parameters, name);
+        return FindParameter(parameters, name);
     }
 
     void Take(const std::vector<double>& from, std::vector<double>& to) const {
@@ -94,8 +94,8 @@ private:
         }
     }
 
-    const std::vector<ContractParameter>& _parameters;
-    std::string& _error;
+    const std::vector<ContractParameter>& parameters;
+    std::string& error;
 };
 
 bool ReadVersion(Reader& reader, int& version) {

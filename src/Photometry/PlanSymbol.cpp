@@ -59,6 +59,7 @@ std::vector<SymbolPoint> PointsOnArc(const SymbolStroke& round, double begin, do
     // The last point of a full turn would be the first again.
     const int count = static_cast<int>(chords) + (sweep < FullTurn ? 1 : 0);
     std::vector<SymbolPoint> points;
+    points.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         points.push_back(PointAt(round, begin + sweep * i / chords));
     }

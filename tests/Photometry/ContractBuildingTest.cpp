@@ -127,10 +127,10 @@ LuminaireSettings SampleSettings() {
 }
 
 const ContractParameter& Named(const List& list, std::string_view name) {
-    static const ContractParameter none;
+    static const ContractParameter None;
     const ContractParameter* found = FindParameter(list, name);
     EXPECT_NE(found, nullptr) << name;
-    return found ? *found : none;
+    return found ? *found : None;
 }
 
 std::string ShownValue(const ContractParameter& p) {

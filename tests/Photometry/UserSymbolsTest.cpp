@@ -193,7 +193,7 @@ TEST(UserSymbols, DrawTheSameAfterWritingAndReading) {
 
 TEST(UserSymbols, AreReadFromATextCutAnywhere) {
     for (std::size_t length = 0; length <= Stored.size(); ++length) {
-        const UserSymbols read = ParseUserSymbols(std::string_view(Stored).substr(0, length));
+        const UserSymbols read = ParseUserSymbols(Stored.substr(0, length));
         EXPECT_EQ(ParseUserSymbols(FormatUserSymbols(read)), read) << length;
     }
 }
