@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "Workbench/Project/ElementRules.hpp"
 #include "Workbench/Project/FileGroups.hpp"
 
 namespace Merivane::Workbench {
@@ -77,16 +78,6 @@ std::vector<ElementType> PartTypesOf(ElementType type) {
     default:
         return {};
     }
-}
-
-bool IsPart(ElementType type) {
-    constexpr ElementType wholes[] = {ElementType::Column, ElementType::Beam,
-                                      ElementType::CurtainWall, ElementType::Stair,
-                                      ElementType::Railing};
-    return std::any_of(std::begin(wholes), std::end(wholes), [type](ElementType whole) {
-        const std::vector<ElementType> types = PartTypesOf(whole);
-        return std::find(types.begin(), types.end(), type) != types.end();
-    });
 }
 
 ModelGeometry MakeGeometry(Shape shape) {
@@ -183,13 +174,12 @@ bool ReadKind(const Place& place, ElementType& type, ModelGeometry& geometry, st
     return true;
 }
 
-void KindKeys(FieldsToRead& fields, ElementType& type, ModelGeometry& geometry) {
+void KindKeys(FieldsToRead& fields, const ElementType& type, const ModelGeometry& /*geometry*/) {
     const auto alreadyRead = [](const Place&, std::string&) { return true; };
     fields.Custom("tipo", true, alreadyRead);
     if (ShapesOf(type).size() > 1) {
         fields.Custom("forma", false, alreadyRead);
     }
-    static_cast<void>(geometry);
 }
 
 void KindKeys(FieldsToWrite& fields, const ElementType& type, const ModelGeometry& geometry) {
@@ -271,7 +261,7 @@ bool ReadElement(const Place& place, FileNames& names, const Project& project,
     if (!ReadKind(place, type, element.geometry, error)) {
         return false;
     }
-    if (IsPart(type)) {
+    if (IsPartType(type)) {
         return Refuse(place,
                       "um elemento \"" + std::string(WordOf(ElementTypeWords(), type)) +
                           "\" só existe entre as partes de outro",

@@ -5,6 +5,7 @@
 
 #include "Text/ShownText.hpp"
 #include "Workbench/Project/FileGroups.hpp"
+#include "Workbench/Project/ParameterRules.hpp"
 
 namespace Merivane::Workbench {
 
@@ -162,15 +163,6 @@ bool NameParts(const Place& list, const std::vector<ProjectPart>& parts, Attribu
     return true;
 }
 
-bool IsSameValue(const LibraryParameter& a, const LibraryParameter& b) {
-    const bool isText = b.type == ParameterType::String;
-    if (!b.isArray) {
-        return isText ? a.text == b.text : a.number == b.number;
-    }
-    return a.dim1 == b.dim1 && a.dim2 == b.dim2 &&
-           (isText ? a.texts == b.texts : a.numbers == b.numbers);
-}
-
 JsonValue StoredValue(const FieldsToWrite& fields, const LibraryParameter& parameter) {
     if (parameter.isArray) {
         FieldsToWrite array(fields.project, fields.parameterPlaces);
@@ -260,11 +252,10 @@ void OwnParameterFields(FieldsToWrite& fields, const Project& project,
     JsonValue own = JsonValue::MakeObject();
     for (const LibraryParameter& parameter : parameters) {
         const std::size_t at = PlaceOfParameter(fields.parameterPlaces[part], parameter.name);
-        if (at >= ofPart.size() || ofPart[at].type != parameter.type ||
-            ofPart[at].isArray != parameter.isArray || IsSameValue(parameter, ofPart[at])) {
-            continue;
+        if (at < ofPart.size() && IsSameKind(parameter, ofPart[at]) &&
+            !IsSameValue(parameter, ofPart[at])) {
+            own.Set(ofPart[at].name, StoredValue(fields, parameter));
         }
-        own.Set(ofPart[at].name, StoredValue(fields, parameter));
     }
     if (own.members.size() > 0) {
         fields.Set("parametros", std::move(own));

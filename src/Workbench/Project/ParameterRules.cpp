@@ -41,20 +41,6 @@ bool HasValue(ParameterType type) {
     return type != ParameterType::Separator && type != ParameterType::Title;
 }
 
-bool IsSameKind(const LibraryParameter& a, const LibraryParameter& b) {
-    return a.type == b.type && a.isArray == b.isArray;
-}
-
-// `b` is the part's: fields that its kind does not use may hold anything.
-bool IsSameValue(const LibraryParameter& a, const LibraryParameter& b) {
-    const bool isText = b.type == ParameterType::String;
-    if (!b.isArray) {
-        return isText ? a.text == b.text : a.number == b.number;
-    }
-    return a.dim1 == b.dim1 && std::max(a.dim2, 1) == std::max(b.dim2, 1) &&
-           (isText ? a.texts == b.texts : a.numbers == b.numbers);
-}
-
 bool IsShortText(const std::string& text) {
     return CountUtf16(text) <= LongestText && Text::IsUtf8(text) &&
            text.find('\0') == std::string::npos;
@@ -90,6 +76,19 @@ void LayValue(const LibraryParameter& from, LibraryParameter& to) {
 }
 
 } // namespace
+
+bool IsSameKind(const LibraryParameter& a, const LibraryParameter& b) {
+    return a.type == b.type && a.isArray == b.isArray;
+}
+
+bool IsSameValue(const LibraryParameter& a, const LibraryParameter& b) {
+    const bool isText = b.type == ParameterType::String;
+    if (!b.isArray) {
+        return isText ? a.text == b.text : a.number == b.number;
+    }
+    return a.dim1 == b.dim1 && std::max(a.dim2, 1) == std::max(b.dim2, 1) &&
+           (isText ? a.texts == b.texts : a.numbers == b.numbers);
+}
 
 Parameters MergeParameters(const Parameters& part, const Parameters& own) {
     Parameters merged = part;

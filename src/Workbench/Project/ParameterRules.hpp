@@ -11,6 +11,13 @@ namespace Merivane::Workbench {
 
 using Parameters = std::vector<Host::LibraryParameter>;
 
+/// True when both have the same type, and both one value or an array.
+bool IsSameKind(const Host::LibraryParameter& a, const Host::LibraryParameter& b);
+
+/// True when two of the same kind hold the same. Fields that the kind does not use may hold
+/// anything, and one column is as good as none.
+bool IsSameValue(const Host::LibraryParameter& a, const Host::LibraryParameter& b);
+
 /// All parameters of the part in the part's order, with an element's own values laid over. Values
 /// whose name or kind the part does not know are passed over.
 Parameters MergeParameters(const Parameters& part, const Parameters& own);
