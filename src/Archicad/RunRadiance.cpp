@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdint>
 #include <filesystem>
 #include <limits>
@@ -60,7 +61,7 @@ SimulationResult RunUnderWindow(const Simulation::Scene& scene, const Simulation
                               StepsOfStage);
             lastStage = stage;
         }
-        window.Show(static_cast<std::int32_t>(fraction * StepsOfStage + 0.5));
+        window.Show(static_cast<std::int32_t>(std::lround(fraction * StepsOfStage)));
     };
     return Simulation::RunSimulation(
         scene, options, [&window] { return window.IsCancelled(); },

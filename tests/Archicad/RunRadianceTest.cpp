@@ -1,5 +1,8 @@
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
