@@ -1,0 +1,304 @@
+#include <cstdint>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "AddOn/CommandTable.hpp"
+#include "AddOn/Commands/ToolbarPalette.hpp"
+#include "AddOn/Entry/ResourceIds.hpp"
+#include "AddOn/MenuTable.hpp"
+#include "Workbench/Interface/MenuText.hpp"
+#include "Workbench/Interface/OwnResources.hpp"
+
+// The folder `resources` and the code's tables and numbers, held together.
+namespace Merivane {
+namespace {
+
+using Workbench::ItemKind;
+using Workbench::OwnResources;
+
+const std::vector<std::string>& Strings(int resource) {
+    static const std::vector<std::string> None;
+    const auto found = OwnResources().stringLists.find(resource);
+    EXPECT_NE(found, OwnResources().stringLists.end()) << resource;
+    return found == OwnResources().stringLists.end() ? None : found->second;
+}
+
+const Workbench::ItemResource& ItemOf(int dialog, std::int16_t item) {
+    return OwnResources().dialogs.at(dialog).items.at(static_cast<std::size_t>(item - 1));
+}
+
+std::string Tooltip(int dialog, std::int16_t item) {
+    return OwnResources().dialogHelps.at(dialog).tooltips.at(item);
+}
+
+TEST(MenuResources, HoldOneTextForEachCommandOfTheMenu) {
+    for (const Commands::MenuGroup& group : Commands::MenuTable()) {
+        const auto texts = Workbench::ReadMenuTexts(Strings(group.resourceId));
+        ASSERT_EQ(texts.items.size(), static_cast<std::size_t>(group.itemCount));
+        for (std::size_t i = 0; i < texts.items.size(); ++i) {
+            const Commands::CommandRow* const command = Commands::FindCommand(group.commands[i]);
+            ASSERT_TRUE(command) << group.commands[i];
+            EXPECT_EQ(texts.items[i].text, command->name);
+        }
+    }
+}
+
+TEST(MenuResources, NameTheGroupsUnderOneMenu) {
+    const std::string groups[] = {"1. Catalogo de luminarias",
+                                  "2. Novas fontes de luz",
+                                  "3. Distribuicao",
+                                  "4. Calculo",
+                                  "5. Documentacao",
+                                  "6. Analise e tabelas",
+                                  "Barra de ferramentas e diagnosticos"};
+    for (std::size_t i = 0; i < std::size(groups); ++i) {
+        const auto texts = Workbench::ReadMenuTexts(Strings(Commands::MenuTable()[i].resourceId));
+        EXPECT_EQ(texts.menu, "Vantoro");
+        EXPECT_EQ(texts.group, groups[i]);
+    }
+}
+
+TEST(MenuResources, KeepEveryItemUsableInEveryWindow) {
+    for (const Commands::MenuGroup& group : Commands::MenuTable()) {
+        const std::vector<std::string>& strings = Strings(group.resourceId);
+        for (std::size_t i = 2; i < strings.size(); ++i) {
+            const auto item = Workbench::ReadMenuItem(strings[i]);
+            EXPECT_EQ(strings[i],
+                      item.text + " ^E3 ^ES ^EE ^EI ^ED ^ET ^" + std::to_string(item.icon));
+        }
+    }
+}
+
+TEST(MenuResources, AreTheSameInTheDarkInterfaceButForTheirIcons) {
+    for (const Commands::MenuGroup& group : Commands::MenuTable()) {
+        auto light = Workbench::ReadMenuTexts(Strings(group.resourceId));
+        for (Workbench::MenuItemText& item : light.items) {
+            item.icon = static_cast<std::int16_t>(item.icon + 100);
+        }
+        EXPECT_EQ(Workbench::ReadMenuTexts(Strings(group.resourceId + Commands::DarkMenuOffset)),
+                  light);
+    }
+}
+
+TEST(MenuResources, HaveTheIconsThatTheyName) {
+    for (const int offset : {0, 1000}) {
+        for (const Commands::MenuGroup& group : Commands::MenuTable()) {
+            for (const auto& item :
+                 Workbench::ReadMenuTexts(Strings(group.resourceId + offset)).items) {
+                ASSERT_TRUE(OwnResources().icons.contains(item.icon)) << item.icon;
+                EXPECT_FALSE(Workbench::OwnIconImage(OwnResources().icons.at(item.icon)).empty());
+            }
+        }
+    }
+    EXPECT_TRUE(OwnResources().icons.contains(ResourceIds::LightMarkIcon));
+}
+
+TEST(ToolbarResources, HaveTheButtonsTheirIconsAndTooltips) {
+    std::set<int> buttonItems;
+    for (const Commands::ToolbarButton& button : Commands::ToolbarButtons()) {
+        const auto& item = ItemOf(ResourceIds::Toolbar, button.item);
+        EXPECT_EQ(item.kind, ItemKind::IconButton) << button.item;
+        EXPECT_EQ(item.icon, button.icon);
+        EXPECT_TRUE(OwnResources().icons.contains(button.icon + 100)) << button.icon;
+        // The tooltip is the menu's text without what tells that a dialog follows.
+        std::string name(Commands::FindCommand(button.command)->name);
+        if (name.ends_with("...")) {
+            name.resize(name.size() - 3);
+        }
+        EXPECT_EQ(Tooltip(ResourceIds::Toolbar, button.item), name);
+        buttonItems.insert(button.item);
+    }
+    for (std::int16_t item = 3; item <= 25; ++item) {
+        EXPECT_EQ(ItemOf(ResourceIds::Toolbar, item).kind == ItemKind::Separator,
+                  !buttonItems.contains(item))
+            << item;
+    }
+}
+
+TEST(ToolbarResources, ShowTheIconOfTheCommandInTheMenu) {
+    for (const Commands::ToolbarButton& button : Commands::ToolbarButtons()) {
+        for (const Commands::MenuGroup& group : Commands::MenuTable()) {
+            const auto texts = Workbench::ReadMenuTexts(Strings(group.resourceId));
+            for (std::size_t i = 0; i < texts.items.size(); ++i) {
+                if (group.commands[i] == button.command) {
+                    EXPECT_EQ(texts.items[i].icon, button.icon) << button.command;
+                }
+            }
+        }
+    }
+}
+
+/// What an item's number stands for in the code.
+struct ItemUse {
+    std::int16_t item;
+    ItemKind kind;
+    std::string text;
+};
+
+void ExpectItems(int dialog, std::size_t count, const std::vector<ItemUse>& uses) {
+    ASSERT_TRUE(OwnResources().dialogs.contains(dialog)) << dialog;
+    EXPECT_EQ(OwnResources().dialogs.at(dialog).items.size(), count);
+    for (const ItemUse& use : uses) {
+        SCOPED_TRACE(std::to_string(dialog) + '/' + std::to_string(use.item));
+        EXPECT_EQ(ItemOf(dialog, use.item).kind, use.kind);
+        EXPECT_EQ(ItemOf(dialog, use.item).text, use.text);
+    }
+}
+
+TEST(DialogResources, HaveTheItemsOfTheEngineDialog) {
+    namespace Item = ResourceIds::Engine;
+    ExpectItems(
+        Item::Dialog, 32,
+        {
+            {Item::AdvancedBox, ItemKind::GroupBox, "Parâmetros avançados"},
+            {3, ItemKind::LeftText, "Perfil de cálculo:"},
+            {Item::Profile, ItemKind::PopupControl, ""},
+            {Item::Description, ItemKind::LeftText, ""},
+            {Item::TimeLine, ItemKind::LeftText, ""},
+            {Item::ShowAdvanced, ItemKind::CheckBox, "Mostrar parâmetros avançados"},
+            {Item::FirstAdvanced, ItemKind::LeftText, "Reflexões da luz:"},
+            {Item::Bounces, ItemKind::IntEdit, ""},
+            {10, ItemKind::LeftText,
+             "Quantas vezes a luz rebate nas superfícies. 2 = interiores comuns; 0 = só luz "
+             "direta. É o que mais pesa no tempo"},
+            {11, ItemKind::LeftText, "Raios por ponto:"},
+            {Item::Divisions, ItemKind::IntEdit, ""},
+            {13, ItemKind::LeftText,
+             "Raios que estimam a luz refletida. Mais raios = menos manchas; o tempo cresce "
+             "junto."},
+            {14, ItemKind::LeftText, "Raios extras nas transições:"},
+            {Item::Supersamples, ItemKind::IntEdit, ""},
+            {16, ItemKind::LeftText,
+             "Refina onde a luz muda rápido: cantos, sombras, bordas de fachos."},
+            {17, ItemKind::LeftText, "Resolução da luz refletida:"},
+            {Item::Resolution, ItemKind::IntEdit, ""},
+            {19, ItemKind::LeftText, "Detalhe da luz refletida; importa em salas grandes."},
+            {20, ItemKind::LeftText, "Tolerância de interpolação:"},
+            {Item::Accuracy, ItemKind::RealEdit, ""},
+            {22, ItemKind::LeftText,
+             "Quanto a luz refletida é reaproveitada entre pontos vizinhos. Menor = mais preciso e "
+             "mais lento."},
+            {23, ItemKind::LeftText, "Limite de contribuição:"},
+            {Item::LimitWeight, ItemKind::RealEdit, ""},
+            {25, ItemKind::LeftText,
+             "Raios que contribuem menos que isso são descartados. Raramente precisa mudar."},
+            {26, ItemKind::LeftText, "Processos em paralelo:"},
+            {Item::MaxProcesses, ItemKind::IntEdit, ""},
+            {Item::LastAdvanced, ItemKind::LeftText,
+             "0 = automático (núcleos do computador menos 2). O resultado não muda, só o tempo."},
+            {Item::Warnings, ItemKind::LeftText, ""},
+            {Item::BackToProfile, ItemKind::Button, "Voltar ao perfil"},
+            {Item::Accept, ItemKind::Button, "OK"},
+            {Item::Cancel, ItemKind::Button, "Cancelar"},
+        });
+}
+
+TEST(DialogResources, LimitTheNumbersOfTheEngineDialog) {
+    namespace Item = ResourceIds::Engine;
+    struct Case {
+        std::int16_t item;
+        std::string lowest;
+        std::string highest;
+    };
+    const Case cases[] = {
+        {Item::Bounces, "0", "8"},         {Item::Divisions, "64", "8192"},
+        {Item::Supersamples, "0", "4096"}, {Item::Resolution, "16", "2048"},
+        {Item::Accuracy, "0.05", "0.5"},   {Item::LimitWeight, "0.0001", "0.05"},
+        {Item::MaxProcesses, "0", "64"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(ItemOf(Item::Dialog, c.item).lowest, c.lowest) << c.item;
+        EXPECT_EQ(ItemOf(Item::Dialog, c.item).highest, c.highest) << c.item;
+    }
+}
+
+TEST(DialogResources, HaveTheItemsOfTheRadianceCheck) {
+    namespace Item = ResourceIds::RadianceCheck;
+    ExpectItems(Item::Dialog, 10,
+                {
+                    {Item::Close, ItemKind::Button, "Fechar"},
+                    {Item::Verdict, ItemKind::LeftText, ""},
+                    {Item::InstallationBox, ItemKind::MultiLineEdit, ""},
+                    {Item::ToolsBox, ItemKind::LeftText, ""},
+                    {Item::TestBox, ItemKind::MultiLineEdit, ""},
+                    {Item::TestAgain, ItemKind::Button, "Testar de novo"},
+                    {Item::OpenFolder, ItemKind::Button, "Abrir pasta"},
+                });
+}
+
+TEST(DialogResources, HaveTheItemsOfTheReflectances) {
+    namespace Item = ResourceIds::Reflectance;
+    ExpectItems(
+        Item::Dialog, 19,
+        {
+            {Item::Accept, ItemKind::Button, "Calcular"},
+            {Item::Cancel, ItemKind::Button, "Cancelar"},
+            {Item::Head, ItemKind::LeftText, ""},
+            {Item::Surfaces, ItemKind::SingleSelList, ""},
+            {Item::Name, ItemKind::LeftText, ""},
+            {6, ItemKind::LeftText, "Refletancia usada (%):"},
+            {Item::Used, ItemKind::RealEdit, ""},
+            {Item::UseEstimate, ItemKind::Button, "Usar a estimada"},
+            {Item::Glass, ItemKind::CheckBox, "Vidro (transparente)"},
+            {10, ItemKind::LeftText, "TL / Tvis (%):"},
+            {Item::Transmittance, ItemKind::RealEdit, ""},
+            {12, ItemKind::LeftText, "RL interna (%):"},
+            {Item::Inside, ItemKind::RealEdit, ""},
+            {14, ItemKind::LeftText, "RL externa (%):"},
+            {Item::Outside, ItemKind::RealEdit, ""},
+            {Item::Explanation, ItemKind::LeftText, ""},
+            {Item::GlassNote, ItemKind::LeftText,
+             "Vidro: valores LUMINOSOS do catalogo, incidencia normal - TL = Tvis = VT; RL = Rvis "
+             "= VR. Nao use Ts, g, FS nem SHGC (sao energeticos). RL interna: luz vinda do "
+             "ambiente; externa: vinda de fora. RL 8 % nos dois lados = vidro incolor (reflexao "
+             "fisica do Radiance, cresce em angulo rasante)."},
+            {Item::Remember, ItemKind::CheckBox,
+             "Guardar as correcoes para os proximos calculos (vale para todos os projetos)"},
+        });
+}
+
+TEST(DialogResources, HaveTheItemsOfTheZoneRequirements) {
+    namespace Item = ResourceIds::ZoneRequirement;
+    ExpectItems(Item::Dialog, 17,
+                {
+                    {Item::Accept, ItemKind::Button, "Continuar"},
+                    {Item::Cancel, ItemKind::Button, "Cancelar"},
+                    {3, ItemKind::LeftText, "Norma:"},
+                    {Item::Standard, ItemKind::PopupControl, ""},
+                    {Item::Zones, ItemKind::SingleSelList, ""},
+                    {6, ItemKind::LeftText, "Seção:"},
+                    {Item::Section, ItemKind::PopupControl, ""},
+                    {Item::Activity, ItemKind::PopupControl, ""},
+                    {9, ItemKind::LeftText, "Em minima (lx):"},
+                    {Item::Illuminance, ItemKind::RealEdit, ""},
+                    {11, ItemKind::LeftText, "U0 minima:"},
+                    {Item::Uniformity, ItemKind::RealEdit, ""},
+                    {13, ItemKind::LeftText, "Telas:"},
+                    {Item::Screens, ItemKind::PopupControl, ""},
+                    {Item::UseForAll, ItemKind::Button, "Usar em todas as Zonas"},
+                    {Item::Note, ItemKind::LeftText, ""},
+                    {Item::Explanation, ItemKind::LeftText,
+                     "Atividade de cada Zona, da tabela da seção 5 da norma. A norma e as escolhas "
+                     "ficam salvas no projeto."},
+                });
+}
+
+TEST(DialogResources, HaveTheTooltipsOfTheZoneRequirements) {
+    namespace Item = ResourceIds::ZoneRequirement;
+    EXPECT_EQ(Tooltip(Item::Dialog, Item::Standard),
+              "Norma de referencia do projeto: NBR (Brasil) ou ISO (internacional) - mesmos "
+              "valores.");
+    EXPECT_EQ(Tooltip(Item::Dialog, Item::Section),
+              "Secao da tabela da norma onde esta a atividade.");
+    EXPECT_EQ(Tooltip(Item::Dialog, Item::UseForAll),
+              "Aplica a atividade e os valores desta Zona a todas.");
+    EXPECT_EQ(Tooltip(Item::Dialog, Item::Accept), "Segue para o calculo.");
+    EXPECT_EQ(Tooltip(Item::Dialog, Item::Cancel), "Fecha sem calcular.");
+}
+
+} // namespace
+} // namespace Merivane
