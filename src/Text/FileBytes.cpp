@@ -2,9 +2,12 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 #include "Text/NativeFile.hpp"
+#include "Text/NativePath.hpp"
 
 namespace Merivane::Text {
 
@@ -53,8 +56,11 @@ bool WriteFileFlushed(const std::wstring& path, std::string_view bytes) {
 }
 
 bool ReplaceFile(const std::wstring& path, std::string_view bytes) {
-    const std::wstring beside = path + L".parcial";
-    if (WriteFileFlushed(beside, bytes) && RenameOver(beside, path)) {
+    std::error_code code;
+    const std::filesystem::path linked = std::filesystem::canonical(NativePath(path), code);
+    const std::wstring target = code ? path : WidePath(linked); // no file yet: no link to follow
+    const std::wstring beside = target + L".parcial";
+    if (WriteFileFlushed(beside, bytes) && RenameOver(beside, target)) {
         return true;
     }
     RemoveFile(beside);

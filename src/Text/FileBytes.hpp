@@ -18,8 +18,8 @@ bool WriteFileBytes(const std::wstring& path, std::string_view bytes);
 bool WriteFileFlushed(const std::wstring& path, std::string_view bytes);
 
 /// Writes a file whole or not at all: beside its place under a temporary name, flushed to the
-/// disk, then renamed. Returns false when any of it fails; the file at `path` is then as it was and
-/// nothing is left beside it.
+/// disk, then renamed; through a link the file that it leads to. Returns false when any of it
+/// fails; the file at `path` is then as it was and nothing is left beside it.
 bool ReplaceFile(const std::wstring& path, std::string_view bytes);
 
 } // namespace Merivane::Text

@@ -104,6 +104,20 @@ TEST(ReplaceFile, WritesTheFileWholeAndLeavesNothingBeside) {
     EXPECT_EQ(FileCount(folder.Path()), 1);
 }
 
+TEST(ReplaceFile, KeepsALinkAndReplacesTheFileThatItLeadsTo) {
+    const TemporaryFolder folder;
+    const auto real = folder.Path() / "there" / "real.txt";
+    const auto link = folder.Path() / "link.txt";
+    std::filesystem::create_directory(real.parent_path());
+    WriteBytes(real, "old");
+    std::filesystem::create_symlink(real, link);
+    ASSERT_TRUE(ReplaceFile(Wide(link), "new"));
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(ReadBytes(real), "new");
+    EXPECT_EQ(FileCount(folder.Path()), 2);
+    EXPECT_EQ(FileCount(real.parent_path()), 1);
+}
+
 TEST(ReplaceFile, LeavesEverythingAsItWasWhenItFails) {
     const TemporaryFolder folder;
     // A folder that holds something can't be renamed over.

@@ -69,13 +69,6 @@ std::string Quoted(const std::wstring& path) {
     return '"' + Text::Narrow(path) + '"';
 }
 
-/// A link stays one: what is written is the file that it leads to.
-std::wstring FollowLinks(const std::wstring& path) {
-    std::error_code code;
-    const auto target = std::filesystem::canonical(Text::NativePath(path), code);
-    return code ? path : Text::WidePath(target);
-}
-
 /// What is no project, or one of a later program, is not written over.
 bool CheckPresentFile(const std::wstring& path, std::string& error) {
     std::error_code code;
@@ -155,10 +148,9 @@ std::string WriteProject(const Project& project) {
 
 bool SaveProject(const std::wstring& path, const Project& project, std::string& error) {
     const std::string bytes = WriteProject(project);
-    const std::wstring target = FollowLinks(path);
     Project back;
-    const bool good = ParseProject(bytes, back, error) && CheckPresentFile(target, error);
-    if (good && Text::ReplaceFile(target, bytes)) {
+    const bool good = ParseProject(bytes, back, error) && CheckPresentFile(path, error);
+    if (good && Text::ReplaceFile(path, bytes)) {
         return true;
     }
     error = "o projeto não foi gravado em " + Quoted(path) +
