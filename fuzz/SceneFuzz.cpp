@@ -33,7 +33,8 @@ bool LoadIes(const std::string& path, std::string& bytes) {
     return path != "falta.ies";
 }
 
-/// Large rooms are as valid as small ones, but laying their points is not what is tried here.
+/// Large rooms and arrays are as valid as small ones, but laying their points and explaining the
+/// glare of a million luminaires is not what is tried here.
 bool IsSmall(const Document::SceneDocument& document) {
     double nodes = 0.0;
     for (const Document::DocumentZone& zone : document.zones) {
@@ -42,7 +43,11 @@ bool IsSmall(const Document::SceneDocument& document) {
         nodes += (bounds.maximum.x - bounds.minimum.x + zone.height) *
                  (bounds.maximum.y - bounds.minimum.y + zone.height);
     }
-    return nodes < 20000.0;
+    double lights = 0.0;
+    for (const Simulation::SceneLuminaire& luminaire : document.luminaires) {
+        lights += static_cast<double>(luminaire.arrayCountX) * luminaire.arrayCountY;
+    }
+    return nodes < 20000.0 && lights < 1000.0;
 }
 
 Simulation::SimulationResult DarkResult(const Document::BuiltScene& built) {
