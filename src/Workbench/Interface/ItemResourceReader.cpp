@@ -49,7 +49,7 @@ bool ReadFont(ResourceCursor& cursor, ItemResource& item) {
         if (!word.starts_with(font.prefix)) {
             continue;
         }
-        const std::string_view style = std::string_view(word).substr(font.prefix.size());
+        const std::string style = word.substr(font.prefix.size());
         if (std::find(std::begin(FontStyles), std::end(FontStyles), style) !=
             std::end(FontStyles)) {
             item.fontSize = font.size;

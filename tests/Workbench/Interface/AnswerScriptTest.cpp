@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Support/Places.hpp"
 #include "Workbench/Interface/AnswerScript.hpp"
 
 namespace Merivane::Workbench {
@@ -86,6 +87,17 @@ TEST(AnswerScript, RefusesWithThePlace) {
         EXPECT_EQ(error, c.error);
         EXPECT_EQ(script.size(), 1U);
     }
+}
+
+TEST(AnswerScript, ReadsTheExampleOfItsPage) {
+    const std::string page = Tests::ReadBytes(Tests::SourceFolder() / "docs" / "respostas.md");
+    const std::size_t begin = page.find("```json\n") + 8;
+    AnswerScript script;
+    std::string error;
+    EXPECT_TRUE(
+        ParseAnswerScript(page.substr(begin, page.find("```", begin) - begin), script, error))
+        << error;
+    EXPECT_EQ(script.size(), 3U);
 }
 
 } // namespace
