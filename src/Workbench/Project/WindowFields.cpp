@@ -35,9 +35,9 @@ bool IsView(const GuidHolder& holder) {
     return holder.kind == GuidKind::View;
 }
 
-/// The window types that have a database of their own.
+/// The window types that have a database of their own: all words but the plan's and the model's.
 Words<WindowType> DatabaseWords() {
-    static const std::vector<Word<WindowType>> words = [] {
+    static const std::vector<Word<WindowType>> OwnWords = [] {
         std::vector<Word<WindowType>> own;
         for (const Word<WindowType>& entry : WindowTypeWords()) {
             if (entry.value != WindowType::FloorPlan && entry.value != WindowType::Model3D) {
@@ -46,7 +46,7 @@ Words<WindowType> DatabaseWords() {
         }
         return own;
     }();
-    return words;
+    return OwnWords;
 }
 
 void LineKeys(auto& fields, auto& line) {
