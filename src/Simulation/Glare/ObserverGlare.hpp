@@ -38,7 +38,7 @@ GlareSum SumSources(const UgrObserver& observer, const std::vector<PlacedLuminai
 /// The result of a sum of sources against a background, see `ObserverGlare`.
 GlareResult RateSum(const GlareSum& sum, double verticalIlluminance);
 
-/// "< 10" below 10, else one decimal with a decimal comma; compared as printed.
+/// "< 10" below 10 (9.96 too), else one decimal with a decimal comma.
 std::string FormatUgr(double value);
 
 } // namespace Merivane::Simulation

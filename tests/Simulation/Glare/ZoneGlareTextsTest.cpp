@@ -37,7 +37,7 @@ TEST(ModelLogLine, TellsTheValueAndHowTheTableWasRead) {
     across.tabular.crosswise = true;
     across.tabular.ugr = 9.2;
     across.tabular.roomX = 12;
-    across.referenceUgr = 9.96;
+    across.referenceUgr = 10.04;
     EXPECT_EQ(ModelLogLine(across, Room),
               "  UGR tabular, Painel Plano 600 (12 un., H 1,55 m): sala-padrao 12H x 8H (Zona "
               "3,86H x 7,72H), refletancias 70/30/20 (sala 68/46/20) < 10 (visada transversal); "

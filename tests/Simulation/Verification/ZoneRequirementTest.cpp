@@ -63,11 +63,12 @@ TEST(CheckAgainstTask, ComparesTheIlluminanceAsPrinted) {
         {299.5, 300, true}, // prints as 300
         {299.4999, 300, false},
         {300, 300, true},
-        {300.49, 300.5, false}, // prints as 300
+        {300.49, 300.5, false}, // prints as 300, and the limit as 301
         {300.5, 301, true},
-        {300, 300 + 0.9e-9, true}, // the tolerance of the limit
-        {300, 300 + 1.2e-9, false},
+        {299.5, 300.49, true}, // both print as 300
+        {299.49, 300.49, false},
         {0, 0, true},
+        {0.4, 0.49, true},
         {0.4, 0.5, false},
         {0, -1, true},
         {std::numeric_limits<double>::infinity(), 300, true},
@@ -89,12 +90,12 @@ TEST(CheckAgainstTask, ComparesTheUniformityAsPrinted) {
         bool ok;
     };
     const Case cases[] = {
-        {0.695, 0.7, true}, // prints as 0,70
-        {0.6949, 0.7, false},      {0.7, 0.7, true},
-        {0.704, 0.705, false}, // prints as 0,70
-        {0.7, 0.7 + 0.9e-9, true}, {0.7, 0.7 + 1.2e-9, false},
-        {0.0, 0.0, true},          {0.004, 0.01, false},
-        {0.005, 0.01, true},       {1.0, 1.0, true},
+        {0.695, 0.7, true},                                               // prints as 0,70
+        {0.6949, 0.7, false},    {0.7, 0.7, true}, {0.704, 0.705, false}, // prints as 0,70, and the
+                                                                          // limit as 0,71
+        {0.695, 0.7049, true},                                            // both print as 0,70
+        {0.6949, 0.7049, false}, {0.0, 0.0, true}, {0.004, 0.01, false},  {0.005, 0.01, true},
+        {1.0, 1.0, true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::PrintToString(c.uniformity) + " of " + testing::PrintToString(c.u0));
