@@ -27,6 +27,7 @@ bool BoxHolds(const ZoneRoom& room, const Point3D& place) {
 
 std::vector<ZoneRoom> RoomsOfZones(const std::vector<ZoneRecord>& zones) {
     std::vector<ZoneRoom> rooms;
+    rooms.reserve(zones.size());
     for (const ZoneRecord& zone : zones) {
         rooms.push_back({{zone.outline, zone.holes},
                          {zone.minX, zone.minY, zone.baseLevel},

@@ -189,7 +189,8 @@ TEST(JoinHoles, JoinsHolesOfAnyShapeAndPlace) {
             if (unit(random) < 0.3) {
                 continue;
             }
-            const Point2D center{(i % cells + 0.5) * cell, (i / cells + 0.5) * cell};
+            const int row = i / cells;
+            const Point2D center{(i % cells + 0.5) * cell, (row + 0.5) * cell};
             contours.push_back(Star(center, cell * (0.2 + 0.25 * unit(random)), 2 * (2 + round % 5),
                                     unit(random) * 6.0));
             area -= std::abs(SignedArea(contours.back()));

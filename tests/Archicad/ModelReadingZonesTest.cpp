@@ -20,6 +20,7 @@ using Strings = std::vector<std::string>;
 
 std::vector<std::string> NamesOf(const std::vector<ZoneRecord>& zones) {
     std::vector<std::string> names;
+    names.reserve(zones.size());
     for (const ZoneRecord& zone : zones) {
         names.push_back(zone.name);
     }

@@ -63,7 +63,8 @@ private:
         return column >= 0 && row >= 0 && column < columns && row < rows;
     }
     std::size_t Place(int column, int row) const {
-        return static_cast<std::size_t>(row * columns + column);
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) +
+               static_cast<std::size_t>(column);
     }
     int LookAt(int column, int row) const {
         return Holds(column, row) ? plate.cells[Place(column, row)] : EmptyCell;

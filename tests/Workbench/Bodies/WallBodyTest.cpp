@@ -199,6 +199,7 @@ TEST(WallBody, IsClosedWhateverIsCutOut) {
     for (int round = 0; round < 300; ++round) {
         WallGeometry wall = Wall(between(1.0, 9.0), round % 2 == 0 ? 0.0 : between(-3.0, 3.0));
         std::vector<OpeningGeometry> openings;
+        openings.reserve(7);
         for (int i = 0; i < round % 7; ++i) {
             // Steps of a quarter make sides and corners meet.
             openings.push_back(Window(std::floor(between(-1.0, 10.0) * 4.0) / 4.0,
