@@ -19,7 +19,7 @@ protected:
 
     /// Events that write down what they are told of; the buttons 1 and 2 close the dialog.
     DialogEvents Recording() {
-        const auto write = [this](std::string what) {
+        const auto write = [this](const std::string& what) {
             return [this, what](DialogId, std::int16_t item) {
                 told.push_back(what + ' ' + std::to_string(item));
             };
