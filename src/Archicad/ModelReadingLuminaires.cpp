@@ -42,8 +42,8 @@ bool IsNumeric(Photometry::ContractParameterType type) {
 /// A parameter of another kind counts as absent.
 double NumberOf(const Parameters& parameters, std::string_view name, double absent) {
     const auto* const parameter = Photometry::FindParameter(parameters, name);
-    const bool found = parameter != nullptr && IsNumeric(parameter->type) &&
-                       std::isfinite(parameter->number);
+    const bool found =
+        parameter != nullptr && IsNumeric(parameter->type) && std::isfinite(parameter->number);
     return found ? parameter->number : absent;
 }
 
