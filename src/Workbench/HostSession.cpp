@@ -127,12 +127,11 @@ ErrorCode CheckProcessCancelled() {
     }
     Workbench::Session& session = CurrentSession();
     Workbench::ProcessWindow* const window = OpenedProcessWindow();
+    const bool asked = session.options.cancelAsked && session.options.cancelAsked();
     if (!window) {
-        return NoError; // there is no button to press
+        return asked ? Cancelled : NoError; // no button to press, but the program's user can
     }
-    if (session.options.cancelAsked && session.options.cancelAsked()) {
-        window->cancelled = true;
-    }
+    window->cancelled = window->cancelled || asked;
     return window->cancelled ? Cancelled : NoError;
 }
 

@@ -175,6 +175,14 @@ TEST_F(RadianceCheck, SaysWhyTheProgramsDoNotCalculate) {
     EXPECT_EQ(Usable(), (Items{Item::Close, Item::TestAgain, Item::OpenFolder}));
 }
 
+TEST_F(RadianceCheck, EndsATestThatTheUserStops) {
+    ReplaceTool(CopyInstallation() / "bin" / "oconv", "sleep 60\n");
+    Workbench::CurrentSession().options.cancelAsked = [] { return true; };
+    Check();
+    EXPECT_EQ(LastItem(Item::TestBox).text,
+              "O Radiance não conseguiu calcular:\nteste: calculo cancelado");
+}
+
 TEST_F(RadianceCheck, SaysThatThereIsNoTemporaryFolder) {
     // The log's three first lines ask for it before.
     Workbench::FailCall("GetTemporaryFolder", 4, Host::GeneralError);

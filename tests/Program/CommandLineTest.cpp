@@ -62,14 +62,16 @@ TEST(CommandLine, ShowsItsHelpInPortuguese) {
         EXPECT_EQ(end.error, "");
         EXPECT_NE(end.output.find("Uso: vantoro [OPÇÕES] COMANDO"), std::string::npos)
             << end.output;
-        for (const std::string command : {"simular", "ies", "verificar-radiance"}) {
+        for (const std::string command :
+             {"simular", "ies", "verificar-radiance", "comandos", "executar"}) {
             EXPECT_NE(end.output.find("\n  " + command), std::string::npos) << end.output;
         }
     }
 }
 
 TEST(CommandLine, ShowsNoEnglishWordInAnyHelp) {
-    for (const std::string command : {"simular", "ies", "verificar-radiance"}) {
+    for (const std::string command :
+         {"simular", "ies", "verificar-radiance", "comandos", "executar"}) {
         const ProgramEnd end = RunVantoro({command, "--ajuda"});
         EXPECT_EQ(end.status, 0);
         for (const std::string word : {"Usage", "OPTIONS", "Options", "REQUIRED", "Positionals",

@@ -1,5 +1,6 @@
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -159,6 +160,38 @@ TEST(ProjectSession, ForgetsTheOldestStepsBeyondItsLimit) {
     EXPECT_EQ(UndoNames().front(), "1");
 }
 
+// A value of another kind would be refused when the project is read back.
+TEST(ProjectSession, DropsValuesThatDoNotFitThePartThatTakesThePlace) {
+    OpenSession({});
+    Project project = MakeEmptyProject();
+    project.parts.resize(2);
+    for (ProjectPart& part : project.parts) {
+        part.name = &part == &project.parts[0] ? "um" : "dois";
+        part.parameters.resize(2);
+        part.parameters[0].name = "mvFlux";
+        part.parameters[1].name = "mvName";
+    }
+    project.parts[0].parameters[1].type = Host::ParameterType::String;
+    OpenProject(std::move(project));
+    Host::Element object;
+    object.header.type = Host::ElementType::Object;
+    object.header.layer = {1};
+    object.data = Host::ObjectData{.libraryIndex = LibraryIndexOf(0)};
+    Host::ElementMemo memo;
+    memo.parameters = CurrentSession().project.parts[0].parameters;
+    memo.parameters[0].number = 5.0;
+    memo.parameters[1].text = "a";
+    const auto& elements = CurrentSession().project.elements;
+    ASSERT_EQ(Host::CallUndoable("um", [&] { return Host::CreateElement(object, memo); }),
+              Host::NoError);
+    EXPECT_EQ(elements.at(0).memo.parameters, memo.parameters);
+    std::get<Host::ObjectData>(object.data).libraryIndex = LibraryIndexOf(1);
+    ASSERT_EQ(Host::CallUndoable("dois", [&] { return Host::ChangeElement(object, {}, {}); }),
+              Host::NoError);
+    ASSERT_EQ(elements.at(0).memo.parameters.size(), 1U);
+    EXPECT_EQ(elements.at(0).memo.parameters[0].number, 5.0);
+}
+
 TEST(ProjectSession, WatchesAProcessWindow) {
     std::vector<std::int32_t> seen;
     OpenSession({.onProgress = [&seen](const ProcessWindow& window) {
@@ -190,6 +223,15 @@ TEST(ProjectSession, StopsWorkWhenTheProgramIsInterrupted) {
     interrupted = true;
     EXPECT_EQ(Host::CheckProcessCancelled(), Host::Cancelled);
     interrupted = false;
+    EXPECT_EQ(Host::CheckProcessCancelled(), Host::Cancelled);
+    OpenSession({});
+}
+
+TEST(ProjectSession, StopsWorkWithoutAProcessWindowToo) {
+    bool interrupted = false;
+    OpenSession({.cancelAsked = [&interrupted] { return interrupted; }});
+    EXPECT_EQ(Host::CheckProcessCancelled(), Host::NoError);
+    interrupted = true;
     EXPECT_EQ(Host::CheckProcessCancelled(), Host::Cancelled);
     OpenSession({});
 }

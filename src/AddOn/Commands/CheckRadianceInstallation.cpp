@@ -26,7 +26,7 @@ Simulation::SelfTestResult RunSelfTest(const Radiance::Installation& installatio
     } else {
         test =
             Simulation::RadianceSelfTest(installation, temporary + L"/Vantoro/teste_radiance", [] {
-                return Host::CheckProcessCancelled() != Host::NoError;
+                return Host::CheckProcessCancelled() == Host::Cancelled;
             });
     }
     Commands::ReportLine(Simulation::TestLogLine(test));
