@@ -146,7 +146,7 @@ std::vector<JsonValue> OfficeLuminaires() {
         {"Painel", "painel-antiofuscante.ies", {0.6, 0.7, OfficeHeight}, 6, 1.68, 3, 2.3},
         {"Painel", "painel-antiofuscante.ies", {0.6, 7.8, OfficeHeight}, 4, 2.0, 2, 2.5},
         {"Downlight", "downlight.ies", {11.1, 4.8, OfficeHeight}, 3, 1.3, 1, 0.0, 80},
-        {"Pendente", "pendente-duplo.ies", {10.9, 0.8, PendantHeight}, 2, 2.4, 2, 2.0},
+        {"Pendente", "pendente-duplo.ies", {10.8, 0.8, PendantHeight}, 2, 2.3, 2, 2.0},
     };
     std::vector<JsonValue> luminaires;
     for (const LuminaireField& field : fields) {
