@@ -51,8 +51,10 @@ void AddText(Extent& extent, const TextData& text, const std::vector<TextParagra
     const auto lines = static_cast<double>(std::max<std::size_t>(paragraphs.size(), 1));
     const double height = text.size * (1.0 + LineStep * (lines - 1.0));
     const auto anchor = static_cast<std::int32_t>(text.anchor);
-    const double left = -width * (anchor % 3) / 2.0;
-    const double top = height * (anchor / 3) / 2.0;
+    const std::int32_t column = anchor % 3;
+    const std::int32_t row = anchor / 3;
+    const double left = -width * column / 2.0;
+    const double top = height * row / 2.0;
     for (const Coordinate& corner :
          {Coordinate{left, top}, Coordinate{left + width, top}, Coordinate{left, top - height},
           Coordinate{left + width, top - height}}) {

@@ -30,6 +30,7 @@ void LoadProject(Project project, std::wstring path) {
 
 std::vector<std::string> NamesOf(const std::vector<UndoStep>& steps) {
     std::vector<std::string> names;
+    names.reserve(steps.size());
     for (const UndoStep& step : steps) {
         names.push_back(step.name);
     }

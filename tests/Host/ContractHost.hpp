@@ -14,7 +14,8 @@ namespace Merivane::Host {
 ///   layer that was deleted;
 /// - a layer combination that shows every layer;
 /// - the parts below, each 1.2 m x 0.3 m with the parameters "mvFlux" (real, 3000), "mvName"
-///   (string, "prova"), "mvOn" (boolean, 1) and "mvTable" (array of real, 2 x 3, 1 to 6);
+///   (string, "prova"), "mvOn" (boolean, 1) and "mvTable" (array of real, 2 x 3, 1 to 6); the other
+///   lamp's "mvName" is a real of 0 instead;
 /// - on the free layer, in this order: a wall with a window and a door, a column of two segments,
 ///   and a line that the user has locked; a line on the hidden layer and one on the locked layer;
 /// - on story 0 a section, whose window was not in front yet, that shows the wall;
@@ -25,6 +26,7 @@ inline constexpr const char* FreeLayer = "Prova - livre";
 inline constexpr const char* HiddenLayerName = "Prova - oculta";
 inline constexpr const char* LockedLayerName = "Prova - travada";
 inline constexpr const char* LampPart = "Prova - luminária";
+inline constexpr const char* OtherLampPart = "Prova - outra luminária";
 inline constexpr const char* ObjectPart = "Prova - mesa";
 inline constexpr const char* WorksheetName = "Prova - folha";
 

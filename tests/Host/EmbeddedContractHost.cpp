@@ -126,7 +126,9 @@ Project MakeContractProject() {
         combination.states.push_back({{layer.first}, false, false});
     }
     project.combinations[1] = combination;
-    project.parts = {MakePart(LampPart, true, 1), MakePart(ObjectPart, false, 2)};
+    project.parts = {MakePart(LampPart, true, 1), MakePart(ObjectPart, false, 2),
+                     MakePart(OtherLampPart, true, 3)};
+    project.parts[2].parameters[1] = MakeParameter("mvName", ParameterType::Real);
     AddElements(project);
     AddDatabases(project);
     return project;

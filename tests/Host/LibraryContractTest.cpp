@@ -181,6 +181,19 @@ TEST_F(LibraryContract, ReplacesParametersWhereTheyAreGiven) {
     EXPECT_EQ(ParametersOf(guid).at(0).number, 2.0);
 }
 
+TEST_F(LibraryContract, KeepsTheValuesThatFitWhenAnotherPartTakesThePlace) {
+    Sample lamp = MakeLamp();
+    lamp.memo.parameters = {Number("mvFlux", 4200.0), Text("mvName", "minha")};
+    ASSERT_EQ(CreateInStep(lamp), NoError);
+    std::get<ObjectData>(lamp.element.data).libraryIndex = PartNamed(OtherLampPart);
+    ASSERT_EQ(ChangeInStep(lamp.element), NoError);
+    std::vector<LibraryParameter> expected = PartParameters(OtherLampPart);
+    expected[0].number = 4200.0; // the name is no text any more
+    EXPECT_EQ(ParametersOf(lamp.element.header.guid), expected);
+    EXPECT_TRUE(UndoByUser());
+    EXPECT_EQ(ParametersOf(lamp.element.header.guid).at(1).text, "minha");
+}
+
 TEST_F(LibraryContract, GivesWhatItReadBackUnchanged) {
     Sample lamp = MakeLamp();
     lamp.memo.parameters = {Table("mvTable", 3, 4)};

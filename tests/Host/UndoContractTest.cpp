@@ -153,6 +153,25 @@ TEST_F(UndoContract, TakesOpeningsAlongWithTheirWall) {
     EXPECT_EQ(openings.size(), 2U);
 }
 
+TEST_F(UndoContract, FindsNothingOfWhatWasDeletedInTheSameStep) {
+    const Guid column = Listed(ElementType::Column).at(0);
+    const std::vector<Guid> segments = Listed(ElementType::ColumnSegment);
+    EXPECT_EQ(CallUndoable("Prova",
+                           [&] {
+                               EXPECT_EQ(DeleteElements({column}), NoError);
+                               EXPECT_FALSE(Exists(column));
+                               EXPECT_FALSE(Exists(segments.at(0)));
+                               EXPECT_FALSE(Exists(segments.at(1)));
+                               EXPECT_TRUE(Listed(ElementType::Column).empty());
+                               EXPECT_TRUE(Listed(ElementType::ColumnSegment).empty());
+                               EXPECT_EQ(DeleteElements({column}), BadId);
+                               return Cancelled;
+                           }),
+              Cancelled);
+    EXPECT_TRUE(Exists(column));
+    EXPECT_EQ(Listed(ElementType::ColumnSegment), segments);
+}
+
 TEST_F(UndoContract, RefusesStructureInsideAStep) {
     Layer layer{"Prova - nova", false, false};
     LineType lineType{"Prova - traço", {3.0, 1.0}};

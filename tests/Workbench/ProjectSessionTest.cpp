@@ -176,7 +176,9 @@ TEST(ProjectSession, DropsValuesThatDoNotFitThePartThatTakesThePlace) {
     Host::Element object;
     object.header.type = Host::ElementType::Object;
     object.header.layer = {1};
-    object.data = Host::ObjectData{.libraryIndex = LibraryIndexOf(0)};
+    Host::ObjectData data;
+    data.libraryIndex = LibraryIndexOf(0);
+    object.data = data;
     Host::ElementMemo memo;
     memo.parameters = CurrentSession().project.parts[0].parameters;
     memo.parameters[0].number = 5.0;

@@ -49,6 +49,9 @@ TEST(DrawnExtent, OfABentSideLiesToTheRightOfItsChordWhereTheAngleIsPositive) {
     Extent left;
     AddContour(left, {{{0.0, 0.0}, {2.0, 0.0}}, {{0, -pi}}}, false);
     ExpectExtent(left, 0.0, 0.0, 2.0, 1.0);
+    Extent upright; // radius sqrt 2 about (-1, 1)
+    AddContour(upright, {{{0.0, 0.0}, {0.0, 2.0}}, {{0, pi / 2.0}}}, false);
+    ExpectExtent(upright, 0.0, 0.0, std::sqrt(2.0) - 1.0, 2.0);
     Extent large; // three quarters of a circle of radius sqrt 2 about (1, -1)
     AddContour(large, {{{0.0, 0.0}, {2.0, 0.0}}, {{0, 1.5 * pi}}}, false);
     ExpectExtent(large, 1.0 - std::sqrt(2.0), -1.0 - std::sqrt(2.0), 1.0 + std::sqrt(2.0), 0.0);

@@ -76,12 +76,18 @@ TEST(PolygonRules, RefusesContoursThatCrossThemselves) {
     Expect({
         {"a bow tie", {Ring({{0, 0}, {2, 2}, {2, 0}, {0, 2}})}, Host::IrregularPolygon},
         {"a crossing in a vertex",
-         {Ring({{0, 0}, {1, 1}, {2, 2}, {2, 0}, {1, 1}, {0, 2}})},
+         {Ring({{0, 0}, {1, 1}, {3, 3}, {3, 0}, {1, 1}, {0, 2}})},
          Host::IrregularPolygon},
         {"a vertex that passes through a side",
-         {Ring({{0, 0}, {4, 0}, {4, 2}, {2, 2}, {2, 0}, {1, -1}, {0, 2}})},
+         {Ring({{0, 0}, {4, 0}, {4, 2}, {2, 2}, {2, 0}, {2, -1}, {0, -1}})},
          Host::IrregularPolygon},
         {"a spike", {Ring({{0, 0}, {2, 0}, {3, 0}, {2, 0}, {2, 2}})}, Host::IrregularPolygon},
+        {"a spike that turns left",
+         {Ring({{0, 0}, {3, 0}, {1, 0}, {1, 2}})},
+         Host::IrregularPolygon},
+        {"a spike that turns right",
+         {Ring({{0, 0}, {3, 0}, {1, 0}, {1, -2}})},
+         Host::IrregularPolygon},
         {"one vertex twice", {Ring({{0, 0}, {2, 0}, {2, 0}, {0, 2}})}, Host::IrregularPolygon},
         {"a closing vertex", {Ring({{0, 0}, {2, 0}, {0, 2}, {0, 0}})}, Host::IrregularPolygon},
         {"flat", {Ring({{0, 0}, {1, 0}, {2, 0}})}, Host::IrregularPolygon},
@@ -96,6 +102,27 @@ TEST(PolygonRules, RefusesContoursThatCrossThemselves) {
     });
 }
 
+TEST(PolygonRules, KnowsCrossingFromTouchingInAVertexHoweverItIsTurned) {
+    const Contour crossing = Ring({{0, 0}, {1, 1}, {3, 3}, {3, 0}, {1, 1}, {0, 2}});
+    const Contour touching = Ring({{0, 0}, {1, 1}, {3, 0}, {3, 3}, {1, 1}, {0, 2}});
+    const Contour onASide = Ring({{0, 0}, {4, 0}, {4, 4}, {1, 0}, {0, 4}});
+    const Contour throughASide = Ring({{0, 0}, {4, 0}, {4, 2}, {2, 2}, {2, 0}, {2, -1}, {0, -1}});
+    for (int step = 0; step < 48; ++step) {
+        const double angle = std::numbers::pi * step / 24.0;
+        const auto turned = [angle](Contour contour) {
+            for (Host::Coordinate& place : contour.vertices) {
+                place = {place.x * std::cos(angle) - place.y * std::sin(angle),
+                         place.x * std::sin(angle) + place.y * std::cos(angle)};
+            }
+            return Polygon{contour};
+        };
+        EXPECT_EQ(CheckPolygon(turned(crossing)), Host::IrregularPolygon) << step;
+        EXPECT_EQ(CheckPolygon(turned(touching)), Host::NoError) << step;
+        EXPECT_EQ(CheckPolygon(turned(onASide)), Host::NoError) << step;
+        EXPECT_EQ(CheckPolygon(turned(throughASide)), Host::IrregularPolygon) << step;
+    }
+}
+
 TEST(PolygonRules, WantsHolesInsideAndApart) {
     const Contour outline = Square(0, 0, 10);
     Expect({
@@ -106,6 +133,10 @@ TEST(PolygonRules, WantsHolesInsideAndApart) {
         {"across", {outline, Square(9, 9, 2)}, Host::IrregularPolygon},
         {"the outline itself", {outline, outline}, Host::IrregularPolygon},
         {"along a side", {outline, Square(0, 1, 2)}, Host::IrregularPolygon},
+        {"on a whole side", {outline, Ring({{0, 0}, {10, 0}, {5, 5}})}, Host::IrregularPolygon},
+        {"on a whole side backwards",
+         {outline, Ring({{10, 0}, {0, 0}, {5, 5}})},
+         Host::IrregularPolygon},
         {"touching from inside", {outline, Ring({{0, 5}, {2, 4}, {2, 6}})}, Host::NoError},
         {"touching from outside",
          {outline, Ring({{0, 5}, {-2, 4}, {-2, 6}})},
