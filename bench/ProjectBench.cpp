@@ -88,18 +88,20 @@ ProjectElement MakeElement(ElementType type, int storey, Project& project, GuidS
 }
 
 void AddZone(int storey, int place, Project& project, GuidSource& guids) {
+    const int row = place / 5;
     const double x = (place % 5) * 12.0;
-    const double y = (place / 5) * 10.0;
+    const double y = row * 10.0;
     ProjectElement zone = MakeElement(ElementType::Zone, storey, project, guids);
     zone.element.data =
         Host::ZoneData{"Sala " + std::to_string(place + 1), "", 0.0, 2.8, {x + 1.0, y + 1.0}};
     zone.memo.polygon = {{{{x, y}, {x + 11.5, y}, {x + 11.5, y + 9.5}, {x, y + 9.5}}, {}}};
     project.elements.push_back(std::move(zone));
     for (int i = 0; i < LuminairesInEach; ++i) {
+        const int line = i / 5;
         const int type = static_cast<int>(project.elements.size()) % Types;
         ProjectElement lamp = MakeElement(ElementType::Lamp, storey, project, guids);
         lamp.element.data = Host::ObjectData{
-            type + 1, {x + 1.0 + i % 5 * 2.2, y + 2.0 + i / 5 * 4.5}, 2.75, 0.1 * i, false, 0.6,
+            type + 1, {x + 1.0 + i % 5 * 2.2, y + 2.0 + line * 4.5}, 2.75, 0.1 * i, false, 0.6,
             0.6};
         const std::vector<Host::LibraryParameter>& parameters =
             project.parts[static_cast<std::size_t>(type)].parameters;

@@ -84,7 +84,7 @@ private:
     void AddCurves();
     void AddModel();
     void AddPlaced(bool isLamp);
-    void AddHierarchy(ElementType whole, std::vector<ElementType> types);
+    void AddHierarchy(ElementType whole, const std::vector<ElementType>& types);
 
     std::mt19937 random;
     int names = 0;
@@ -263,7 +263,7 @@ void Maker::AddBuilding() {
     }
 }
 
-void Maker::AddHierarchy(ElementType whole, std::vector<ElementType> types) {
+void Maker::AddHierarchy(ElementType whole, const std::vector<ElementType>& types) {
     ProjectElement& element = Add(whole);
     for (const ElementType type : types) {
         element.parts.push_back({NewGuid(), type, Box(false)});
