@@ -4,7 +4,6 @@
 #include <functional>
 #include <memory>
 #include <string_view>
-#include <utility>
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
@@ -237,6 +236,34 @@ CommandLineResult WrongUse(const std::string& sentence, const CLI::App& app) {
     return result;
 }
 
+/// A command of the program, and what it asks for once the line is read.
+struct Form {
+    const CLI::App* command = nullptr;
+    std::function<Request()> request;
+};
+
+/// A command without arguments.
+CLI::App* AddPlain(CLI::App& app, const char* name, const char* description) {
+    CLI::App* command = app.add_subcommand(name, description);
+    Prepare(*command);
+    return command;
+}
+
+std::vector<Form> AddForms(CLI::App& app, RawLine& line) {
+    return {
+        {AddSimulate(app, line), [&line] { return line.simulate; }},
+        {AddIes(app, line), [&line] { return line.ies; }},
+        {AddUgr(app, line), [&line] { return line.ugr; }},
+        {AddTasks(app, line), [&line] { return line.tasks; }},
+        {AddPlain(app, "verificar-radiance",
+                  "Verifica a instalação do Radiance com um teste exato"),
+         [] { return CheckRadianceArguments{}; }},
+        {AddPlain(app, "comandos", "Mostra o menu: grupos, números e textos"),
+         [] { return ListCommandsArguments{}; }},
+        {AddRun(app, line), [&line] { return line.run; }},
+    };
+}
+
 } // namespace
 
 CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
@@ -248,16 +275,7 @@ CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
     app.require_subcommand(1);
 
     RawLine line;
-    const CLI::App* simulate = AddSimulate(app, line);
-    const CLI::App* ies = AddIes(app, line);
-    const CLI::App* ugr = AddUgr(app, line);
-    const CLI::App* tasks = AddTasks(app, line);
-    CLI::App* check = app.add_subcommand("verificar-radiance",
-                                         "Verifica a instalação do Radiance com um teste exato");
-    Prepare(*check);
-    CLI::App* list = app.add_subcommand("comandos", "Mostra o menu: grupos, números e textos");
-    Prepare(*list);
-    const CLI::App* run = AddRun(app, line);
+    const std::vector<Form> forms = AddForms(app, line);
     for (CLI::App* command : app.get_subcommands({})) {
         command->group("Comandos");
     }
@@ -286,18 +304,9 @@ CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
             return WrongUse(error, app);
         }
     }
-    const std::pair<const CLI::App*, Request> requests[] = {
-        {simulate, line.simulate},
-        {ies, line.ies},
-        {ugr, line.ugr},
-        {tasks, line.tasks},
-        {check, CheckRadianceArguments{}},
-        {list, ListCommandsArguments{}},
-        {run, line.run},
-    };
-    for (const auto& [command, request] : requests) {
-        if (command->parsed()) {
-            result.request = request;
+    for (const Form& form : forms) {
+        if (form.command->parsed()) {
+            result.request = form.request();
         }
     }
     return result;

@@ -116,8 +116,8 @@ void ZoneRequirementDialog::FillZones() const {
 void ZoneRequirementDialog::Click(std::int16_t item) {
     if (item == Item::Accept || item == Item::Cancel) {
         Host::CloseDialog(dialog, item == Item::Accept);
-    } else if (const ZoneRequirementRow* const row = Selected(); row && item == Item::UseForAll) {
-        UseForAll(row->requirement);
+    } else if (item == Item::UseForAll && Selected()) {
+        UseForAll(Host::SelectedRow(dialog, Item::Zones));
     }
 }
 
@@ -169,10 +169,10 @@ void ZoneRequirementDialog::TakeNumbers(ZoneRequirementRow& row) const {
     row.suggested = false;
 }
 
-void ZoneRequirementDialog::UseForAll(const ZoneRequirement& requirement) {
-    const ZoneRequirement shared = requirement; // it is one of those that are written over
+void ZoneRequirementDialog::UseForAll(std::int16_t chosen) {
+    const ZoneRequirementRow& model = rows[static_cast<std::size_t>(chosen - 1)];
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        rows[i].requirement = shared;
+        rows[i].requirement = model.requirement;
         rows[i].suggested = false;
         RefreshRow(static_cast<std::int16_t>(i + 1));
     }

@@ -31,7 +31,7 @@ private:
     void ChooseActivity(Simulation::ZoneRequirementRow& row);
     void ChooseScreens(Simulation::ZoneRequirementRow& row) const;
     void TakeNumbers(Simulation::ZoneRequirementRow& row) const;
-    void UseForAll(const Simulation::ZoneRequirement& requirement);
+    void UseForAll(std::int16_t chosen);
     void ShowSelectedZone();
     void ListActivities();
     void RefreshRow(std::int16_t row) const;
