@@ -15,6 +15,8 @@
 #include "Host/Stories.hpp"
 #include "Photometry/ContractReading.hpp"
 #include "Photometry/LuminaireTypeKey.hpp"
+#include "Simulation/LinearLuminaire.hpp"
+#include "Text/Number.hpp"
 
 namespace Merivane::Archicad {
 
@@ -22,10 +24,13 @@ namespace {
 
 using Parameters = std::vector<Photometry::ContractParameter>;
 
-/// What is left out.
+/// What is left out, and what is cut into pieces.
 struct LuminaireCounts {
     int switchedOff = 0;
     int unreadable = 0;
+    int runs = 0; ///< linear luminaires
+    std::size_t pieces = 0;
+    double length = 0.0; ///< of those pieces [m]
 };
 
 std::string TextOf(const Parameters& parameters, std::string_view name) {
@@ -72,7 +77,7 @@ std::string NameOf(const Parameters& parameters, const Host::Guid& guid) {
     return "luminaria " + GuidBegin(guid);
 }
 
-void TakeParameters(const Parameters& parameters, const Host::Guid& guid,
+void TakeParameters(const Parameters& parameters, const Host::Guid& guid, bool isLinear,
                     Simulation::SceneLuminaire& luminaire) {
     luminaire.id = "lum_" + GuidBegin(guid);
     luminaire.guid = Host::GuidText(guid);
@@ -82,8 +87,9 @@ void TakeParameters(const Parameters& parameters, const Host::Guid& guid,
     luminaire.contract = Photometry::ReadLuminaireSettings(parameters);
     luminaire.dimming = std::clamp(NumberOf(parameters, "mvDimming", 1.0), 0.0, 1.0);
     const std::string name = NameOf(parameters, guid);
-    luminaire.typeKey = Photometry::LuminaireTypeKey(
-        TextOf(parameters, "mvCatalog"), name, luminaire.lamp, luminaire.contract.iesFileName);
+    luminaire.typeKey =
+        Photometry::LuminaireTypeKey(TextOf(parameters, "mvCatalog"), name, luminaire.lamp,
+                                     luminaire.contract.iesFileName, isLinear);
     luminaire.displayName = RepairDegreeSigns(name);
 }
 
@@ -114,6 +120,12 @@ public:
     }
 
     std::vector<Simulation::SceneLuminaire> Finish() {
+        if (counts.runs > 0) {
+            log.push_back(std::to_string(counts.runs) + " fita(s) / linear(es), " +
+                          Text::FormatFixed(counts.length * 100.0, 0) + " cm em " +
+                          std::to_string(counts.pieces) +
+                          " trecho(s) do comprimento medido no IES");
+        }
         if (counts.switchedOff > 0) {
             log.push_back(std::to_string(counts.switchedOff) +
                           " luminaria(s) desligada(s) (mvLightOn) fora do calculo");
@@ -161,9 +173,38 @@ private:
             log.push_back("luminaria " + Host::GuidText(guid) + " ignorada: " + result.error);
             return;
         }
-        TakeParameters(parameters, guid, luminaire);
+        Simulation::LinearSpec spec;
+        Simulation::LinearPath path;
+        std::string pathError;
+        const bool hasPath = Simulation::ReadLinearContract(parameters, spec, path, pathError);
+        TakeParameters(parameters, guid, hasPath, luminaire);
         TakePlace(*object, storyLevel, luminaire);
-        luminaires.push_back(std::move(luminaire));
+        if (hasPath || !pathError.empty()) {
+            AddRun(luminaire, spec, path, std::move(pathError));
+        } else {
+            luminaires.push_back(std::move(luminaire));
+        }
+    }
+
+    void AddRun(const Simulation::SceneLuminaire& luminaire, const Simulation::LinearSpec& spec,
+                const Simulation::LinearPath& path, std::string error) {
+        std::vector<Simulation::SceneLuminaire> pieces;
+        if (error.empty()) {
+            pieces = Simulation::ExpandLinear(luminaire, path, spec);
+            error = pieces.empty() ? "percurso da luminaria linear ilegivel" : "";
+        }
+        if (!error.empty()) {
+            ++counts.unreadable;
+            log.push_back("luminaria linear " + luminaire.displayName + " ignorada: " + error);
+            return;
+        }
+        ++counts.runs;
+        counts.pieces += pieces.size();
+        const double measured = Simulation::MeasuredLengthOf(luminaire.photometry).length;
+        for (Simulation::SceneLuminaire& piece : pieces) {
+            counts.length += piece.lengthScale * measured;
+            luminaires.push_back(std::move(piece));
+        }
     }
 
     const std::vector<std::int32_t>& floors;

@@ -1,3 +1,4 @@
+#include <cstdint>
 #include <numbers>
 #include <string>
 #include <utility>
@@ -206,6 +207,75 @@ TEST(CollectLuminaires, TakesTheWattsOfTheContractThatUsersEdit) {
     project.elements[0].memo.parameters = PartParameters(project);
     SetNumber(project.elements[0].memo.parameters, "mvInputWatts", 9.5);
     EXPECT_EQ(Collect(std::move(project)).luminaires.at(0).inputWatts, 9.5);
+}
+
+/// Makes a part one of tapes, with a path in its plan [m].
+void MakeLinear(Workbench::ProjectPart& part, const std::vector<double>& path) {
+    SetNumber(part.parameters, "mvLinearVersion", 1.0);
+    SetNumber(part.parameters, "mvLinearCount", static_cast<double>(path.size()) / 2.0);
+    SetNumber(part.parameters, "mvLinearPath", 0.0);
+    Host::LibraryParameter& table = part.parameters.back();
+    table.isArray = true;
+    table.dim1 = static_cast<std::int32_t>(path.size()) / 2;
+    table.dim2 = 2;
+    table.numbers = path;
+}
+
+TEST(CollectLuminaires, CutsALinearOneIntoPieces) {
+    Workbench::Project project = OneLamp();
+    MakeLinear(project.parts[0], {0, 0, 0, 2.5});
+    AddLamp(project, 2, AddLampPart(project, "Ponto"), {0, 0});
+    AddLamp(project, 3, 1, {7, 0});
+    const Collected collected = Collect(std::move(project));
+    ASSERT_EQ(collected.luminaires.size(), 7U);
+    EXPECT_EQ(collected.guids.size(), 3U);
+    const Simulation::SceneLuminaire& last = collected.luminaires[2];
+    EXPECT_EQ(last.id, "lum_1A2B3C4D_p3");
+    EXPECT_EQ(last.displayName, "COD-1");
+    EXPECT_TRUE(last.typeKey.ends_with("LED 830\nfita"));
+    EXPECT_NEAR(last.lengthScale, 0.5, 1e-12);
+    EXPECT_NEAR(last.x, 2.0, 1e-12);
+    EXPECT_NEAR(last.y, 5.25, 1e-12);
+    EXPECT_EQ(last.z, 2.5);
+    EXPECT_NEAR(last.contract.c0Rotation, 90.0, 1e-12);
+    EXPECT_EQ(collected.luminaires[3].id, "lum_00000002");
+    EXPECT_TRUE(collected.luminaires[3].typeKey.ends_with("LED 830"));
+    EXPECT_EQ(collected.log, (Strings{"2 fita(s) / linear(es), 500 cm em 6 trecho(s) do "
+                                      "comprimento medido no IES"}));
+}
+
+TEST(CollectLuminaires, RoundsTheLengthOfRunsToCentimetres) {
+    Workbench::Project project = OneLamp();
+    MakeLinear(project.parts[0], {0, 0, 1.236, 0});
+    EXPECT_EQ(Collect(std::move(project)).log,
+              (Strings{"1 fita(s) / linear(es), 124 cm em 2 trecho(s) do comprimento medido no "
+                       "IES"}));
+}
+
+TEST(CollectLuminaires, TellsOfALinearOneThatCannotBeRead) {
+    Workbench::Project project = OneLamp();
+    MakeLinear(project.parts[0], {0, 0});
+    SetText(project.parts[0].parameters, "mvCatalog", "Fita \xC2\xA1\xC3\xA3");
+    for (const double length : {0.005, 1.0, 1.0}) {
+        const std::int32_t part = AddLampPart(project, "Fita");
+        MakeLinear(project.parts.back(), {0, 0, length, 0});
+        AddLamp(project, 1U + static_cast<std::uint32_t>(part), part, {0, 0});
+    }
+    SetNumber(project.parts[2].parameters, "mvLinearVersion", 2.0);
+    SetNumber(project.parts[3].parameters, "mvLightOn", 0.0);
+    AddLamp(project, 9, AddLampPart(project, "Inteira"), {0, 0});
+    MakeLinear(project.parts.back(), {0, 0, 1, 0});
+    const Collected collected = Collect(std::move(project));
+    EXPECT_EQ(collected.luminaires.size(), 1U);
+    EXPECT_EQ(collected.guids.size(), 5U);
+    EXPECT_EQ(collected.log,
+              (Strings{"luminaria linear Fita \xC2\xB0 ignorada: percurso da luminaria linear com "
+                       "menos de 2 pontos",
+                       "luminaria linear COD-1 ignorada: percurso da luminaria linear ilegivel",
+                       "luminaria linear COD-1 ignorada: luminaria linear de versao mais nova (2)",
+                       "1 fita(s) / linear(es), 100 cm em 1 trecho(s) do comprimento medido no IES",
+                       "1 luminaria(s) desligada(s) (mvLightOn) fora do calculo",
+                       "3 luminaria(s) com fotometria ilegivel fora do calculo"}));
 }
 
 TEST(CollectLuminaires, LeavesOutWhatTheHostDoesNotGive) {
