@@ -319,6 +319,14 @@ TEST(CollectGeometry, LeavesPartsOutsideOfTheBox) {
     EXPECT_EQ(Collect(ColumnOfTwo(40.0)).log, (Strings{Counts(1, 6, 0, 1)}));
 }
 
+// One to either side: what is between them alone meets the box.
+TEST(CollectGeometry, PassesOverAnElementWhosePartsAreAllOutsideOfTheBox) {
+    Workbench::Project project = ColumnOfTwo(40.0);
+    auto& parts = project.elements.back().parts;
+    std::get<Workbench::PrismGeometry>(parts[0].geometry).polygon = {PlanRectangle(-40, 2, 1, 1)};
+    EXPECT_EQ(Collect(std::move(project)).log, (Strings{Counts(0, 0, 0, 0)}));
+}
+
 TEST(CollectGeometry, CountsAnElementAsRefusedWhenAllOfItsPartsAre) {
     OpenSample(ColumnOfTwo(2.0));
     Workbench::FailCall("GetBodies", 1, Host::LockedLayer);
@@ -562,6 +570,23 @@ TEST(SurfaceRecord, KnowsFacesWithoutSurface) {
     EXPECT_EQ(SurfaceRecord(mapper, 99), -1);
     EXPECT_EQ(SurfaceRecord(mapper, 1'000'000), -1);
     EXPECT_TRUE(records.empty());
+}
+
+// The last number of an attribute, and the first of a part's own surface.
+TEST(SurfaceRecord, TellsAttributesFromSurfacesOfAPartAtAMillion) {
+    Workbench::Project project = Room();
+    project.surfaces[999'999] = {"Ultima", {0.5, 0.5, 0.5}, 0.4, 0.3};
+    AddLampPart(project, "Plafon");
+    OpenSample(std::move(project));
+    std::vector<SurfaceReflectance> records;
+    SurfaceMapper mapper{&records, {}, {}};
+    EXPECT_EQ(SurfaceRecord(mapper, 999'999), 0);
+    EXPECT_EQ(SurfaceRecord(mapper, 1'000'000), 1);
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[0],
+              Simulation::MakeFromColour("sup:Ultima", "Ultima", {0.5, 0.5, 0.5, 0.4, 0.3}));
+    EXPECT_EQ(records[1], Simulation::MakeFromColour("gdl:Difusor", "Difusor (GDL)",
+                                                     {1.0, 1.0, 1.0, 0.9, 0.4}));
 }
 
 TEST(SurfaceRecord, ReadsEverySurfaceOnceAlsoOneThatFails) {

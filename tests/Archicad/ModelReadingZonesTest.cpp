@@ -148,6 +148,30 @@ TEST(CollectZones, TakesThoseOfTheFloorOnThePlanWhenNoneIsSelected) {
     EXPECT_EQ(log, (Strings{"nenhuma Zona selecionada: calculando todas as 1 do pavimento atual"}));
 }
 
+// What is selected is no Zone, or a Zone that a section shows of an element that is none.
+TEST(CollectZones, TakesThoseOfTheFloorWhenOnlyOtherElementsAreSelected) {
+    Workbench::Project project = ThreeZones();
+    auto& shown = AddElement(project, 7, Host::ElementType::SectionElement);
+    shown.element.data = Host::SectionElementData{NumberedGuid(4)};
+    shown.database = NumberedGuid(9);
+    OpenSample(std::move(project));
+    Workbench::CurrentSession().project.selection = {NumberedGuid(4), NumberedGuid(7)};
+    Strings log;
+    EXPECT_EQ(NamesOf(CollectZones(log)), (Strings{"Sala", "Copa"}));
+    EXPECT_EQ(log, (Strings{"nenhuma Zona selecionada: calculando todas as 2 do pavimento atual"}));
+}
+
+TEST(CollectZones, TellsOfASelectedZoneThatCannotBeRead) {
+    Workbench::Project project = ThreeZones();
+    AddZone(project, 0xABC, "sem poligono", {});
+    OpenSample(std::move(project));
+    ASSERT_EQ(Host::SetSelection({NumberedGuid(0xABC), NumberedGuid(1)}), Host::NoError);
+    Strings log;
+    EXPECT_EQ(NamesOf(CollectZones(log)), (Strings{"Sala"}));
+    EXPECT_EQ(log, (Strings{"zona {00000ABC-0000-0000-0000-000000000000} ignorada: poligono nao "
+                            "lido"}));
+}
+
 TEST(CollectZones, TellsOfZonesThatCannotBeRead) {
     Workbench::Project project = ThreeZones();
     AddZone(project, 0xABC, "sem poligono", {});
