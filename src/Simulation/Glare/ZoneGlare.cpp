@@ -20,6 +20,8 @@ namespace Merivane::Simulation {
 namespace {
 
 constexpr double LeastHeight = 0.3; // H that the table can be read with [m]
+// Levels are sums: 4.5 m over an eye at 4.2 m comes out a trace below 0.3 m.
+constexpr double HeightTolerance = 1e-9;
 constexpr double SplitHeight = 0.3; // level faces below it are floor [m]
 constexpr double LeastMaintenance = 0.05;
 constexpr ReflectanceSet UsualRoom = {0.7, 0.5, 0.2};
@@ -48,7 +50,7 @@ TabularOmission FindOmission(const SceneLuminaire& sample, double height, double
     if (IsContinuousLine(sample)) {
         return TabularOmission::Linear;
     }
-    if (height < LeastHeight) {
+    if (height < LeastHeight - HeightTolerance) {
         return TabularOmission::BelowEye;
     }
     return downwardArea > 0.0 ? TabularOmission::None : TabularOmission::NoOpening;

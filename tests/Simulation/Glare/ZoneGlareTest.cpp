@@ -141,6 +141,13 @@ TEST(AnalyseZoneGlare, LeavesOutWhatTheTableIsNotFor) {
     EXPECT_TRUE(Analyse({low}).hasUgr);
 }
 
+TEST(AnalyseZoneGlare, ReadsTheTableFromThirtyCentimetresUpWhateverTheLastDigit) {
+    SceneLuminaire low = Panel("Arandela");
+    low.z = 4.5; // less the eye at 4.2 m: 0.29999999999999982
+    ASSERT_LT(low.z - (3.0 + 1.2), 0.3);
+    EXPECT_EQ(Analyse({low}).models[0].omission, TabularOmission::None);
+}
+
 TEST(AnalyseZoneGlare, ExcludesLinesBeforeItLooksAtHeightAndOpening) {
     SceneLuminaire luminaire = Panel("P", 0, 0);
     luminaire.z = 4;
@@ -160,6 +167,7 @@ TEST(AnalyseZoneGlare, TakesTheWorstOfItsModels) {
     EXPECT_EQ(glare.ugr, glare.models[2].tabular.ugr);
     EXPECT_EQ(glare.referenceUgr, glare.models[2].referenceUgr);
     EXPECT_EQ(reversed.ugr, glare.ugr);
+    EXPECT_EQ(reversed.referenceUgr, glare.referenceUgr);
     // With several models every note says which it is about.
     EXPECT_TRUE(glare.notes[0].starts_with("Grande: tabela CIE 117 lida na sala-padrão "));
     EXPECT_TRUE(glare.notes[1].starts_with("Perfil: Fita / linear contínua - o método"));
@@ -187,6 +195,39 @@ TEST(AnalyseZoneGlare, RatesSmallSourcesASecondTime) {
     EXPECT_LT(glare.smallSourceUgr, glare.ugr - 3); // the value that counts is the other
     EXPECT_EQ(glare.log.back(),
               "  UGR pela CIE 147 (fonte pequena, informativo): " + FormatUgr(expected));
+}
+
+TEST(AnalyseZoneGlare, TakesTheWorstOfItsSmallSources) {
+    const SceneLuminaire dim = Panel("Fraco", 0.05, 0.05);
+    SceneLuminaire bright = Panel("Forte", 0.05, 0.05);
+    bright.photometry.candelaMultiplier = 4;
+    const ZoneGlare glare = Analyse({dim, bright});
+    EXPECT_GT(glare.models[1].smallSourceUgr, glare.models[0].smallSourceUgr + 1);
+    EXPECT_EQ(glare.smallSourceUgr, glare.models[1].smallSourceUgr);
+    EXPECT_EQ(Analyse({bright, dim}).smallSourceUgr, glare.smallSourceUgr);
+}
+
+TEST(AnalyseZoneGlare, KeepsAValueBelowZero) {
+    SceneLuminaire faint = Panel("Balizador");
+    faint.photometry.candelaMultiplier = 1e-3;
+    const ZoneGlare glare = Analyse({faint});
+    EXPECT_LT(glare.ugr, 0.0);
+    EXPECT_EQ(glare.ugr, glare.models[0].tabular.ugr);
+    EXPECT_LT(glare.referenceUgr, 0.0);
+    EXPECT_TRUE(glare.hasUgr);
+}
+
+// What only lights the ceiling that it hangs in leaves a standard room dark.
+TEST(AnalyseZoneGlare, OfLightThatOnlyGoesUpIsZeroAndWarns) {
+    SceneLuminaire cloud = Panel("Nuvem");
+    cloud.photometry.verticalAngles = {90.5, 180};
+    cloud.photometry.candela = {{500, 500}};
+    const ZoneGlare glare = Analyse({cloud});
+    EXPECT_TRUE(glare.hasUgr);
+    EXPECT_EQ(glare.ugr, 0.0);
+    EXPECT_EQ(glare.referenceUgr, 0.0);
+    EXPECT_EQ(glare.warnings,
+              Lines{"Nuvem: 100% da luz para cima - o metodo UGR nao vale acima de 65%"});
 }
 
 TEST(AnalyseZoneGlare, WarnsOfLightThatGoesUp) {
