@@ -1,5 +1,7 @@
 #include "Simulation/Glare/DirectLight.hpp"
 
+#include <cmath>
+
 #include <gtest/gtest.h>
 
 #include "Photometry/PhotometricQuantities.hpp"
@@ -111,6 +113,8 @@ TEST(OffsetLight, ServesOnlyRoomsWithTheSameSteps) {
     EXPECT_FALSE(serves(RoomOf(2, 4.5, 1))); // 18 luminaires
     EXPECT_FALSE(serves(RoomOf(2.5, 3, 1))); // 10
     EXPECT_FALSE(serves(RoomOf(2, 3, 1.01)));
+    EXPECT_FALSE(serves(RoomOf(1.9, 3, 1))); // as many luminaires and patches, nearer together
+    EXPECT_FALSE(serves(RoomOf(2, 2.9, 1)));
     UgrRoom higher = RoomOf(2, 3, 1);
     higher.eyeHeight = 1.3;
     EXPECT_FALSE(serves(higher));

@@ -1,5 +1,7 @@
+#include <array>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -173,6 +175,41 @@ TEST(BuildStandardRoom, PutsFourObserversAtMidWall) {
         EXPECT_EQ(observer.label, expected[i].label);
     }
     EXPECT_DOUBLE_EQ(built.scene.luminaires[0].z, 3.3);
+}
+
+TEST(StandardRooms, AreThoseOfTheTablesInTheirOrder) {
+    const std::array<std::pair<double, double>, 19> expected = {{{2, 2},
+                                                                 {2, 3},
+                                                                 {2, 4},
+                                                                 {2, 6},
+                                                                 {2, 8},
+                                                                 {2, 12},
+                                                                 {4, 2},
+                                                                 {4, 3},
+                                                                 {4, 4},
+                                                                 {4, 6},
+                                                                 {4, 8},
+                                                                 {4, 12},
+                                                                 {8, 4},
+                                                                 {8, 6},
+                                                                 {8, 8},
+                                                                 {8, 12},
+                                                                 {12, 4},
+                                                                 {12, 6},
+                                                                 {12, 8}}};
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(std::pair(StandardRooms[i].x, StandardRooms[i].y), expected[i]) << i;
+    }
+}
+
+TEST(ReflectanceSets, AreThoseOfTheTablesInTheirOrder) {
+    const double expected[5][3] = {
+        {0.7, 0.5, 0.2}, {0.7, 0.3, 0.2}, {0.5, 0.5, 0.2}, {0.5, 0.3, 0.2}, {0.3, 0.3, 0.2}};
+    for (std::size_t i = 0; i < ReflectanceSets.size(); ++i) {
+        EXPECT_EQ(ReflectanceSets[i].ceiling, expected[i][0]) << i;
+        EXPECT_EQ(ReflectanceSets[i].walls, expected[i][1]) << i;
+        EXPECT_EQ(ReflectanceSets[i].floor, expected[i][2]) << i;
+    }
 }
 
 TEST(TableRoom, TakesItsSidesInMultiplesOfTheHeight) {

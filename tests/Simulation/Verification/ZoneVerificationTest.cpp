@@ -245,5 +245,23 @@ TEST(VerifyZoneOfScene, PartsFloorFromCeilingAtItsWorkPlane) {
     EXPECT_EQ(input.wallReflectance, -1.0);
 }
 
+TEST(VerifyZoneOfScene, RecommendsForTheSurfacesOfTheScene) {
+    Scene scene;
+    scene.materials = {{.name = "teto", .red = 0.5, .green = 0.5, .blue = 0.5},
+                       {.name = "parede", .red = 0.7, .green = 0.7, .blue = 0.7},
+                       {.name = "piso", .red = 0.3, .green = 0.3, .blue = 0.3}};
+    scene.surfaces = {{.materialIndex = 0, .vertices = {{0, 0, 3}, {0, 9, 3}, {9, 9, 3}}},
+                      {.materialIndex = 1, .vertices = {{0, 0, 0}, {9, 0, 0}, {9, 0, 3}}},
+                      {.materialIndex = 2, .vertices = {{0, 0, 0}, {9, 0, 0}, {9, 9, 0}}}};
+    const ZoneVerification verification = VerifyZoneOfScene(Room, scene, Office());
+    EXPECT_EQ(verification.log,
+              (Lines{"  Iluminância Em: 520 lx / ≥ 500 lx - atende",
+                     "  Uniformidade U0: 0,75 / ≥ 0,70 - atende",
+                     "  (recomendacao) Refletância teto: 0,50 / 0,60 a 0,90 - NAO ATENDE",
+                     "  (recomendacao) Refletância paredes: 0,70 / 0,30 a 0,80 - atende",
+                     "  (recomendacao) Refletância piso: 0,30 / 0,10 a 0,50 - atende"}));
+    EXPECT_TRUE(verification.passes);
+}
+
 } // namespace
 } // namespace Merivane::Simulation
