@@ -297,6 +297,9 @@ std::vector<std::string> GlareExplanationLines(const ExplainedRoom& room) {
     for (const ExplainedObserver& seen : room.observers) {
         AppendObserver(room, seen, nameWidth, lines);
     }
+    if (room.observers.empty()) {
+        lines.emplace_back("  nada a explicar: sem luminárias ou sem observadores");
+    }
     return lines;
 }
 

@@ -91,6 +91,9 @@ void TellZone(const Document::DocumentZone& zone, const ZoneAnalysis& analysis,
     for (const std::string& line : Document::GlareSummary(analysis)) {
         TellLine("  " + line);
     }
+    for (const std::string& note : analysis.verification.notes) {
+        TellLine("  " + note);
+    }
 }
 
 } // namespace

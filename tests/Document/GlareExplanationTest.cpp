@@ -323,4 +323,12 @@ TEST(GlareExplanation, ARowOfNoKnownLightHasNoName) {
     EXPECT_EQ(GlareExplanationLines(room)[7].substr(0, 14), "    8    0,000");
 }
 
+TEST(GlareExplanation, SaysThatThereIsNothingToExplain) {
+    ExplainedRoom room;
+    room.title = "Depósito";
+    EXPECT_EQ(GlareExplanationLines(room),
+              (std::vector<std::string>{"Depósito",
+                                        "  nada a explicar: sem luminárias ou sem observadores"}));
+}
+
 } // namespace Merivane::Document

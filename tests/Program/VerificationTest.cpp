@@ -113,6 +113,14 @@ TEST(Verification, TellsTheRowsOfEachZoneAligned) {
     EXPECT_TRUE(Tells(end.output, "4 meio das paredes, máx. UGR "));
 }
 
+TEST(Verification, TellsWhatShinesMostIntoTheScreens) {
+    const ProgramEnd end = VerifiedRun(Easy + R"(, "telas": "classe III")").Run();
+    EXPECT_TRUE(Tells(end.output, "  Luminância (telas)"));
+    EXPECT_TRUE(Tells(end.output, "\n  Luminância para telas (limite 200 cd/m²): a maior é de D1 "
+                                  "(gama 65, C 0)\n"));
+    EXPECT_EQ(VerifiedRun(Easy).Run().output.find("para telas"), std::string::npos);
+}
+
 TEST(Verification, TellsAZoneWithoutActivity) {
     const ProgramEnd end = VerifiedRun("").Run();
     EXPECT_TRUE(Tells(end.output, "\nSala\n  sem atividade definida na Zona: sem verificação\n"));
