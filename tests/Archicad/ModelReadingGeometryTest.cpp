@@ -297,6 +297,16 @@ TEST(CollectGeometry, SpansTheBoxOverAllZones) {
     EXPECT_EQ(Collect(std::move(project)).log, (Strings{Counts(1, 1, 0, 1)}));
 }
 
+TEST(CollectGeometry, ReachesSixtyCentimetresUnderTheLowestZone) {
+    for (const double z : {2.4, 2.4 - 1e-6}) {
+        Workbench::Project project = SampleProject();
+        AddZone(project, 1, "Quarto", {PlanRectangle(0, 0, 4, 5)}).element.header.floorIndex = 1;
+        AddLevel(project, 2, z, true);
+        const int met = z < 2.4 ? 0 : 1;
+        EXPECT_EQ(Collect(std::move(project)).log, (Strings{Counts(met, met, 0, met)})) << z;
+    }
+}
+
 /// A column of two segments of 0.4 by 0.4 by 1.5 m; the second one may stand far off.
 Workbench::Project ColumnOfTwo(double secondX) {
     Workbench::Project project = Room();
@@ -411,6 +421,19 @@ TEST(CollectGeometry, TakesAHigherStorysFloorForCeiling) {
     EXPECT_FALSE(collected.scene.surfaces[0].exteriorFace);
 }
 
+TEST(CollectGeometry, MeasuresFromTheLowestFloorWhicheverZoneComesFirst) {
+    for (const std::int16_t firstFloor : {std::int16_t{0}, std::int16_t{1}}) {
+        Workbench::Project project = SampleProject();
+        for (const std::int16_t floor : {firstFloor, static_cast<std::int16_t>(1 - firstFloor)}) {
+            AddZone(project, 10U + static_cast<std::uint32_t>(floor), "Sala",
+                    {PlanRectangle(0, 0, 4, 5)})
+                .element.header.floorIndex = floor;
+        }
+        AddLevel(project, 2, 1.0, true, 0);
+        EXPECT_EQ(KeysOf(Collect(std::move(project))), (Strings{"orientacao:teto"}));
+    }
+}
+
 TEST(CollectGeometry, NumbersFacesByTheirRecord) {
     Workbench::Project project = Room();
     AddLevel(project, 2, 0.0, true, 3);
@@ -477,6 +500,21 @@ TEST(CollectGeometry, AsksUpToOneMetreBeforeAFaceForAZone) {
     }
 }
 
+// Neither its first corner nor the mean with its hole lies over the Zone, which begins at x = 0.
+TEST(CollectGeometry, LooksFromTheMiddleOfTheOutline) {
+    Workbench::Project project = Room();
+    AddFace(project, 2, {{-1.5, 1, 0}, {1.7, 1, 0}, {1.7, 2, 0}, {-1.5, 2, 0}}, 1);
+    auto& body = std::get<Workbench::GivenBody>(project.elements.back().geometry);
+    for (const Host::Coordinate3D& corner : std::vector<Host::Coordinate3D>{
+             {-1.4, 1.2, 0}, {-1.4, 1.8, 0}, {-1.0, 1.8, 0}, {-1.0, 1.2, 0}}) {
+        body.vertices.push_back(corner);
+    }
+    body.faces[0].contours.push_back({4, 5, 6, 7});
+    const Collected collected = Collect(std::move(project));
+    EXPECT_EQ(collected.log, (Strings{Counts(1, 1, 1, 1)}));
+    EXPECT_FALSE(collected.scene.surfaces.at(0).exteriorFace);
+}
+
 TEST(CollectGeometry, TellsBothKindsOfAPaneOfTwoFaces) {
     Workbench::Project project = Room();
     AddUpright(project, 2, -0.10, true, 7);
@@ -521,6 +559,15 @@ TEST(CollectGeometry, LooksOneCentimetreUnderFloorsAndOverCeilings) {
         AddLevel(project, 2, c.z, c.up);
         EXPECT_EQ(Collect(std::move(project)).scene.surfaces.at(0).exteriorFace, c.exterior)
             << c.z << c.up;
+    }
+}
+
+TEST(CollectGeometry, LooksIntoNoRoomUnderAZoneOfAHigherStory) {
+    for (const double z : {3.05, 2.9}) {
+        Workbench::Project project = SampleProject();
+        AddZone(project, 1, "Quarto", {PlanRectangle(0, 0, 4, 5)}).element.header.floorIndex = 1;
+        AddLevel(project, 2, z, false);
+        EXPECT_EQ(Collect(std::move(project)).scene.surfaces.at(0).exteriorFace, z < 3.0) << z;
     }
 }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "Archicad/ModelReadingLuminaires.hpp"
+#include "Host/Stories.hpp"
 #include "ModelSample.hpp"
 #include "Workbench/Session.hpp"
 
@@ -74,6 +75,22 @@ TEST(CollectLuminaires, FillsTheWholeRecord) {
     EXPECT_EQ(luminaire.lengthScale, 1.0);
     EXPECT_EQ(collected.guids, (std::vector<Host::Guid>{NumberedGuid(0x1A2B3C4D)}));
     EXPECT_TRUE(collected.log.empty());
+}
+
+TEST(CollectLuminaires, ReadsThePlanWhateverDatabaseIsCurrent) {
+    Workbench::Project project = OneLamp();
+    Workbench::ProjectDatabase sheet;
+    sheet.window.type = Host::WindowType::Worksheet;
+    sheet.window.database = NumberedGuid(9);
+    project.databases.push_back(sheet);
+    OpenSample(std::move(project));
+    ASSERT_EQ(Host::ChangeCurrentDatabase(sheet.window), Host::NoError);
+    std::vector<Host::Guid> guids;
+    Strings log;
+    EXPECT_EQ(CollectLuminaires({0}, guids, log).size(), 1U);
+    Host::Window current;
+    ASSERT_EQ(Host::GetCurrentDatabase(current), Host::NoError);
+    EXPECT_EQ(current.database, NumberedGuid(9));
 }
 
 TEST(CollectLuminaires, AddsTheStoryLevel) {

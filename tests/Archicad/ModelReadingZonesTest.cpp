@@ -90,15 +90,25 @@ TEST(ReadZone, TakesTheNumberWhereThereIsNoName) {
     EXPECT_EQ(zone.name, "101");
 }
 
+TEST(ReadZone, TakesATriangle) {
+    Workbench::Project project = SampleProject();
+    AddZone(project, 1, "Canto", {{{{0, 0}, {1, 0}, {0, 1}}, {}}});
+    OpenSample(std::move(project));
+    ZoneRecord zone;
+    ASSERT_TRUE(ReadZone(NumberedGuid(1), zone));
+    EXPECT_EQ(zone.outline.size(), 3U);
+}
+
 TEST(ReadZone, RefusesWhatIsNoZoneWithAnOutline) {
     Workbench::Project project = SampleProject();
+    AddZone(project, 4, "sem pavimento", {PlanRectangle(0, 0, 1, 1)}).element.header.floorIndex = 7;
     AddZone(project, 1, "sem poligono", {});
     AddZone(project, 2, "linha", {{{{0, 0}, {1, 0}}, {}}});
     AddWall(project, 3, {0, 0}, {4, 0});
     OpenSample(std::move(project));
     ZoneRecord zone;
     zone.name = "antes";
-    for (const std::uint32_t number : {1U, 2U, 3U, 99U}) {
+    for (const std::uint32_t number : {1U, 2U, 3U, 4U, 99U}) {
         EXPECT_FALSE(ReadZone(NumberedGuid(number), zone)) << number;
     }
     EXPECT_EQ(zone.name, "antes");
