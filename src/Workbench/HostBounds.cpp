@@ -9,6 +9,7 @@
 #include "Host/Elements.hpp"
 #include "Workbench/Bodies/ElementBodies.hpp"
 #include "Workbench/Bodies/ElementBounds.hpp"
+#include "Workbench/Display/TextBlock.hpp"
 #include "Workbench/Project/DrawnExtent.hpp"
 #include "Workbench/Project/ElementRules.hpp"
 #include "Workbench/Session.hpp"
@@ -24,7 +25,6 @@ using Workbench::ProjectDatabase;
 using Workbench::ProjectElement;
 using Workbench::Session;
 
-constexpr double LineStep = 1.5; // from one line of a text to the next, in heights of capitals
 constexpr double MillimetresInMetre = 1000.0;
 
 // Metres of the drawing that one millimetre of its paper stands for.
@@ -38,18 +38,23 @@ double MetresOfMillimetre(const Session& session, const Guid& database) {
     return scale / MillimetresInMetre;
 }
 
+// Width and height of a text's block [mm], as it is drawn.
+Coordinate TextBlockSize(const TextData& text, const std::vector<TextParagraph>& paragraphs) {
+    TextData upright = text;
+    upright.angle = 0.0;
+    upright.anchor = TextAnchor::LeftTop;
+    Coordinate size{0.0, text.size};
+    for (const Drawing::TextRun& run : Workbench::LayOutText(upright, paragraphs, {})) {
+        const double width = Drawing::MeasureText(run.text, run.height, run.weight).width;
+        size.x = std::max(size.x, run.position.x + width);
+        size.y = std::max(size.y, -run.position.y);
+    }
+    return {text.width > 0.0 ? text.width : size.x, size.y};
+}
+
 void AddText(Extent& extent, const TextData& text, const std::vector<TextParagraph>& paragraphs,
              double metres) {
-    double width = text.width;
-    for (const TextParagraph& paragraph : paragraphs) {
-        const auto weight = text.bold ? Drawing::TextWeight::Bold : Drawing::TextWeight::Normal;
-        width =
-            text.width > 0.0
-                ? width
-                : std::max(width, Drawing::MeasureText(paragraph.text, text.size, weight).width);
-    }
-    const auto lines = static_cast<double>(std::max<std::size_t>(paragraphs.size(), 1));
-    const double height = text.size * (1.0 + LineStep * (lines - 1.0));
+    const auto [width, height] = TextBlockSize(text, paragraphs);
     const auto anchor = static_cast<std::int32_t>(text.anchor);
     const std::int32_t column = anchor % 3;
     const std::int32_t row = anchor / 3;

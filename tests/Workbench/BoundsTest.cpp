@@ -74,15 +74,24 @@ TEST(Bounds, OfAPartWithoutABodyAreItsSizesAboutItsOrigin) {
 TEST(Bounds, OfATextAreItsLinesOnPaperAtTheScale) {
     Host::TextData text;
     text.position = {1.0, 2.0};
-    text.size = 3.0; // mm, 0.3 m at 1:100
+    text.size = 2.0; // mm, 0.2 m at 1:100
     text.width = 40.0;
     text.anchor = Host::TextAnchor::LeftBottom;
-    ExpectBox(BoundsOf(ElementType::Text, text, OneLine("lx")), {1.0, 2.0, 0.0}, {5.0, 2.3, 0.0});
+    ExpectBox(BoundsOf(ElementType::Text, text, OneLine("lx")), {1.0, 2.0, 0.0}, {5.0, 2.2, 0.0});
     text.anchor = Host::TextAnchor::RightTop;
-    ExpectBox(BoundsOf(ElementType::Text, text, OneLine("lx")), {-3.0, 1.7, 0.0}, {1.0, 2.0, 0.0});
+    ExpectBox(BoundsOf(ElementType::Text, text, OneLine("lx")), {-3.0, 1.8, 0.0}, {1.0, 2.0, 0.0});
     text.anchor = Host::TextAnchor::Middle;
     text.angle = std::numbers::pi / 2.0;
-    ExpectBox(BoundsOf(ElementType::Text, text, OneLine("lx")), {0.85, 0.0, 0.0}, {1.15, 4.0, 0.0});
+    ExpectBox(BoundsOf(ElementType::Text, text, OneLine("lx")), {0.9, 0.0, 0.0}, {1.1, 4.0, 0.0});
+}
+
+TEST(Bounds, OfATextThatBreaksInItsBoxHoldAllItsLines) {
+    Host::TextData text;
+    text.width = 20.0; // two words of some 15 mm each
+    text.anchor = Host::TextAnchor::LeftTop;
+    Host::ElementMemo memo = OneLine("iluminância mantida");
+    memo.paragraphs[0].stretches[0].count -= 1; // letters, not bytes
+    ExpectBox(BoundsOf(ElementType::Text, text, memo), {0.0, -0.5, 0.0}, {2.0, 0.0, 0.0});
 }
 
 TEST(Bounds, OfATextWithoutAWidthAreThoseOfItsLongestLine) {
