@@ -89,6 +89,8 @@ TEST(ParseUserSymbols, SkipsLinesThatItDoesNotKnow) {
                                    "A 0 0 1 2 3",
                                    "A 0 0 nan 0 90 1",
                                    "P 1 3 0 0 1 0",
+                                   "P 1 3 0 0 1 0 0 1 1",
+                                   "P 1 3 0 0 1 0 0 1 1 1",
                                    "P 1 2 0 0 1 0",
                                    "P",
                                    "P 1",

@@ -176,6 +176,21 @@ TEST(SplitPath, AddsAShortRestToThePieceBeforeIt) {
     ExpectPieces({{0, 0}, {0.005, 0}}, {}, {});
 }
 
+TEST(SplitPath, KeepsAPieceOfTheLeastLength) {
+    ExpectPieces({{0, 0}, {0.01, 0}}, {0.01}, {0.005});
+    ExpectPieces({{0, 0}, {std::nextafter(0.01, 0.0), 0}}, {}, {});
+}
+
+TEST(SplitPath, AddsNoRestOfAnotherDirection) {
+    for (const Point2D end : {Point2D{0.603, 0.796}, {0.597, 0.804}, {0.597, 0.796}}) {
+        const std::vector<LinearPiece> pieces = SplitPath({{0, 0}, {0.6, 0.8}, end}, 1.0, 0.01);
+        ASSERT_EQ(pieces.size(), 1U);
+        EXPECT_NEAR(pieces[0].length, 1.0, 1e-12);
+    }
+    EXPECT_NEAR(SplitPath({{0, 0}, {0.6, 0.8}, {0.603, 0.804}}, 1.0, 0.01).at(0).length, 1.005,
+                1e-12);
+}
+
 TEST(SplitPath, BeginsANewStretchAtEveryCorner) {
     const std::vector<LinearPiece> pieces = SplitPath({{0, 0}, {1.5, 0}, {1.5, 0.7}}, 1.0, 0.01);
     ASSERT_EQ(pieces.size(), 3U);
@@ -263,6 +278,27 @@ TEST(ExpandLinear, PlacesAndAimsByTheMounting) {
         EXPECT_NEAR(made.contract.tiltDirection, c.direction, 1e-12);
         EXPECT_NEAR(made.contract.c0Rotation, 0.0, 1e-12);
     }
+}
+
+TEST(ExpandLinear, GoesAsideAcrossThePath) {
+    for (const bool left : {true, false}) {
+        const LinearSpec spec{LinearMounting::Lateral, 90.0, left, 0.04, 0.0};
+        const SceneLuminaire made = ExpandLinear(Strip(), {{0, 0}, {0, 1}}, spec).at(0);
+        EXPECT_NEAR(made.x, left ? 9.98 : 10.02, 1e-12);
+        EXPECT_NEAR(made.y, 20.5, 1e-12);
+    }
+}
+
+// A part made by hand may have kept the aim of a point luminaire.
+TEST(ExpandLinear, AimsByThePathAlone) {
+    SceneLuminaire strip = Strip();
+    strip.contract.c0Rotation = 11.0;
+    strip.contract.tiltAngle = 12.0;
+    strip.contract.tiltDirection = 13.0;
+    const SceneLuminaire made = ExpandLinear(strip, {{0, 0}, {1, 0}}, {}).at(0);
+    EXPECT_EQ(made.contract.c0Rotation, 0.0);
+    EXPECT_EQ(made.contract.tiltAngle, 0.0);
+    EXPECT_EQ(made.contract.tiltDirection, 0.0);
 }
 
 // What the object's own turn does to its profile it does to its light.

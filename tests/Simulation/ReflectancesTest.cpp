@@ -129,6 +129,15 @@ TEST(ResetToEstimate, TakesTheFiveEstimatesIntoUse) {
     }
 }
 
+TEST(ResetToEstimate, TellsInsideFromOutside) {
+    SurfaceReflectance record = Glass();
+    record.estimatedInside = 0.11;
+    record.estimatedOutside = 0.12;
+    ResetToEstimate(record);
+    EXPECT_EQ(record.reflectanceInside, 0.11);
+    EXPECT_EQ(record.reflectanceOutside, 0.12);
+}
+
 TEST(ApplyStored, TakesTheCorrectionOfARecordsKey) {
     Records records = {Painted(), MakeFloorReflectance()};
     ApplyStored(records, {{"sup:Pintura", {0.6, true, 0.7, 0.1, 0.2}}, {"sup:Outra", {}}});
