@@ -1,5 +1,5 @@
-// gerar-exemplos PASTA: writes the IES files and the scenes of the examples into a folder. The same
-// program writes the same bytes wherever and whenever it runs.
+// gerar-exemplos PASTA: writes the IES files, the scenes and the project of the examples into a
+// folder. The same program writes the same bytes wherever and whenever it runs.
 
 #include <cstdio>
 #include <filesystem>
@@ -8,6 +8,8 @@
 
 #include "Text/FileBytes.hpp"
 #include "Text/NativePath.hpp"
+#include "Workbench/Project/ProjectFile.hpp"
+#include "exemplos/OfficeProject.hpp"
 #include "exemplos/SampleFormat.hpp"
 #include "exemplos/SampleLuminaires.hpp"
 #include "exemplos/SampleScenes.hpp"
@@ -39,7 +41,8 @@ bool WriteAll(const std::filesystem::path& folder) {
             return false;
         }
     }
-    return true;
+    return Write(folder / "escritorio.vantoro",
+                 Workbench::WriteProject(Examples::BuildOfficeProject()));
 }
 
 } // namespace

@@ -22,12 +22,12 @@ std::filesystem::path Samples() {
     return SourceFolder() / "exemplos";
 }
 
-/// Bytes of the sample files of a folder by their path in it: all ".ies" and ".json".
+/// Bytes of the sample files of a folder by their path in it: all ".ies", ".json" and ".vantoro".
 std::map<std::string, std::string> SampleFiles(const std::filesystem::path& folder) {
     std::map<std::string, std::string> files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
         const std::string extension = entry.path().extension().string();
-        if (extension == ".ies" || extension == ".json") {
+        if (extension == ".ies" || extension == ".json" || extension == ".vantoro") {
             const std::string name = entry.path().lexically_relative(folder).generic_string();
             files[name] = ReadBytes(entry.path());
         }
@@ -42,7 +42,7 @@ TEST(SampleFiles, AreMadeAgainByteForByte) {
     ASSERT_EQ(std::system(command.c_str()), 0);
     const auto made = SampleFiles(folder.Path());
     const auto committed = SampleFiles(Samples());
-    EXPECT_EQ(made.size(), 16U);
+    EXPECT_EQ(made.size(), 17U);
     for (const auto& [name, bytes] : made) {
         EXPECT_EQ(committed.count(name), 1U) << name;
     }

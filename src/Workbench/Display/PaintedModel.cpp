@@ -14,20 +14,15 @@ using Host::Coordinate;
 using Host::Coordinate3D;
 
 constexpr double EdgeOn = 1e-6;    // a face whose normal's z is less shows no area
-constexpr double FillBleed = 0.02; // [mm]
+constexpr double FillBleed = 0.05; // under the borders, against seams between faces [mm]
 constexpr Drawing::Color EdgeColor = {0.22, 0.22, 0.22};
 // Towards the light: from above, a little from the viewer's left.
 constexpr Coordinate3D Light = {-0.42, 0.62, 0.66};
 
-// A face and what is drawn with it.
-struct Painting {
-    Drawing::Color color;
-    std::vector<std::pair<Coordinate, Coordinate>> edges;
-};
-
+// The faces of a model, and the colours that they name as their looks.
 struct Paintings {
     std::vector<PaintedFace> faces;
-    std::vector<Painting> looks; // of the face at the same place
+    std::vector<Drawing::Color> colors;
 };
 
 const Coordinate3D& VertexAt(const ViewBody& body, std::int32_t index) {
@@ -110,9 +105,10 @@ void AddFaces(const Project& project, const ViewBody& body, const PaintStyle& st
         if (towards.z < 0.0) { // the inside of an open body
             towards = {-towards.x, -towards.y, -towards.z};
         }
+        painted.edges = SharpEdges(body, face, style.nearest);
+        painted.look = paintings.colors.size();
         paintings.faces.push_back(std::move(painted));
-        paintings.looks.push_back({FaceColor(SurfaceOfFace(project, face), towards, style),
-                                   SharpEdges(body, face, style.nearest)});
+        paintings.colors.push_back(FaceColor(SurfaceOfFace(project, face), towards, style));
     }
 }
 
@@ -128,16 +124,15 @@ void PaintModel(const Project& project, const std::vector<ShownElement>& shown,
             }
         }
     }
-    for (const std::size_t i : PaintOrder(paintings.faces)) {
-        const Painting& look = paintings.looks[i];
+    for (const PaintedFace& face : PaintOrder(std::move(paintings.faces))) {
         Drawing::Area area;
-        for (const std::vector<Coordinate>& ring : paintings.faces[i].rings) {
+        for (const std::vector<Coordinate>& ring : face.rings) {
             area.rings.push_back(PaperPoints(drawing, ring));
         }
-        area.fill = look.color;
-        area.bleed = look.color.alpha < 1.0 ? 0.0 : FillBleed;
+        area.fill = paintings.colors[face.look];
+        area.bleed = area.fill.alpha < 1.0 ? 0.0 : FillBleed;
         drawing.below.emplace_back(std::move(area));
-        for (const auto& [from, to] : look.edges) {
+        for (const auto& [from, to] : face.edges) {
             drawing.below.emplace_back(
                 Drawing::Polyline{{PaperPoint(drawing, from), PaperPoint(drawing, to)},
                                   false,

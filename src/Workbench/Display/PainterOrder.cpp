@@ -2,22 +2,26 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <queue>
-#include <utility>
 
 #include "Workbench/Display/ViewBody.hpp"
 
+// Painter's algorithm after Newell, Newell and Sancha: an order by pairwise tests, and cuts where
+// there is none.
 namespace Merivane::Workbench {
 
 namespace {
 
 using Host::Coordinate;
 
-constexpr double SameDepth = 1e-6; // faces that touch do not cover each other [m]
-constexpr double Parallel = 1e-12;
-constexpr double InsideSide = 1e-7; // share of a side that counts as its inside
-// Looking for pairs would take too long beyond: such a model is ordered by the middles alone.
+constexpr double SameDepth = 1e-6;   // faces that touch do not cover each other [m]
+constexpr double GoesThrough = 5e-4; // how far beyond each other faces are cut apart [m]
+constexpr double Parallel = 1e-12;   // [m2]
+constexpr double InsideSide = 1e-7;  // share of a side that counts as its inside
+constexpr double Sliver = 1e-4;      // narrower pieces are not cut off [m]
 constexpr std::size_t MostFaces = 30000;
+constexpr int MostRings = 2000;
 
 struct Side {
     Coordinate from;
@@ -36,8 +40,8 @@ double DepthAt(const PaintedFace& face, const Coordinate& place) {
     return (face.offset - face.normal.x * place.x - face.normal.y * place.y) / face.normal.z;
 }
 
-// The middle of the widest stretch of the face on the height that is farthest from any corner.
-Coordinate PlaceInside(const Shape& shape) {
+// Half way between the two neighbouring heights of corners that are farthest apart.
+double WidestHeight(const Shape& shape) {
     std::vector<double> heights;
     for (const Side& side : shape.sides) {
         heights.push_back(side.from.y);
@@ -51,6 +55,12 @@ Coordinate PlaceInside(const Shape& shape) {
             height = (heights[i] + heights[i + 1]) / 2.0;
         }
     }
+    return height;
+}
+
+// The middle of the widest stretch of the face on that height.
+Coordinate PlaceInside(const Shape& shape) {
+    const double height = WidestHeight(shape);
     std::vector<double> places;
     for (const Side& side : shape.sides) {
         if ((side.from.y > height) != (side.to.y > height)) {
@@ -60,7 +70,7 @@ Coordinate PlaceInside(const Shape& shape) {
     }
     std::sort(places.begin(), places.end());
     Coordinate inside = shape.sides.empty() ? Coordinate{} : shape.sides.front().from;
-    widest = -1.0;
+    double widest = -1.0;
     for (std::size_t i = 0; i + 1 < places.size(); i += 2) {
         if (places[i + 1] - places[i] > widest) {
             widest = places[i + 1] - places[i];
@@ -84,15 +94,24 @@ Shape MakeShape(const PaintedFace& face) {
     return shape;
 }
 
-// How much nearer `a` is than `b` where they lie over each other: at the place of those that are
-// looked at where they are farthest apart.
+// How much nearer one face is than another where they lie over each other. The difference of two
+// planes is least and largest at the corners of what the two have in common on the paper.
+struct Nearness {
+    double least = 0.0;   // at most 0
+    double largest = 0.0; // at least 0
+
+    double Farthest() const { return -least > largest ? least : largest; }
+    bool IsBoth() const { return least < -GoesThrough && largest > GoesThrough; }
+};
+
 class Comparison {
 public:
     Comparison(const PaintedFace& first, const PaintedFace& second) : a(first), b(second) {}
 
     void LookAt(const Coordinate& place) {
         const double here = DepthAt(a, place) - DepthAt(b, place);
-        farthest = std::abs(here) > std::abs(farthest) ? here : farthest;
+        found.least = std::min(found.least, here);
+        found.largest = std::max(found.largest, here);
     }
 
     void LookAtCrossing(const Side& one, const Side& two) {
@@ -111,119 +130,338 @@ public:
         }
     }
 
-    double Farthest() const { return farthest; }
+    Nearness Found() const { return found; }
 
 private:
     const PaintedFace& a;
     const PaintedFace& b;
-    double farthest = 0.0;
+    Nearness found;
 };
 
-double NearerBy(const PaintedFace& a, const Shape& shapeA, const PaintedFace& b,
-                const Shape& shapeB) {
+bool IsInBox(const Shape& shape, const Coordinate& place) {
+    return place.x > shape.low.x && place.x < shape.high.x && place.y > shape.low.y &&
+           place.y < shape.high.y;
+}
+
+// Looks at the corners of one face that lie inside the other.
+void LookAtCorners(const Shape& corners, const PaintedFace& around, const Shape& aroundShape,
+                   Comparison& comparison) {
+    for (const Side& side : corners.sides) {
+        if (IsInBox(aroundShape, side.from) && IsInside(around.rings, side.from)) {
+            comparison.LookAt(side.from);
+        }
+    }
+    if (IsInBox(aroundShape, corners.inside) && IsInside(around.rings, corners.inside)) {
+        comparison.LookAt(corners.inside);
+    }
+}
+
+Nearness Compare(const PaintedFace& a, const Shape& shapeA, const PaintedFace& b,
+                 const Shape& shapeB) {
     Comparison comparison(a, b);
     for (const Side& one : shapeA.sides) {
         for (const Side& two : shapeB.sides) {
             comparison.LookAtCrossing(one, two);
         }
     }
-    if (comparison.Farthest() == 0.0) { // one inside the other, or the same on the paper
-        if (IsInside(b.rings, shapeA.inside)) {
-            comparison.LookAt(shapeA.inside);
-        }
-        if (IsInside(a.rings, shapeB.inside)) {
-            comparison.LookAt(shapeB.inside);
-        }
-    }
-    return comparison.Farthest();
+    LookAtCorners(shapeA, b, shapeB, comparison);
+    LookAtCorners(shapeB, a, shapeA, comparison);
+    return comparison.Found();
 }
 
-// For each face those that have to be painted behind it, by going from left to right.
-std::vector<std::vector<std::size_t>> FindCoverings(const std::vector<PaintedFace>& faces,
-                                                    const std::vector<Shape>& shapes) {
-    std::vector<std::vector<std::size_t>> nearer(faces.size());
-    if (faces.size() > MostFaces) {
-        return nearer;
-    }
-    std::vector<std::size_t> order(faces.size());
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        order[i] = i;
-    }
-    std::sort(order.begin(), order.end(),
-              [&](std::size_t a, std::size_t b) { return shapes[a].low.x < shapes[b].low.x; });
-    std::vector<std::size_t> open;
-    for (const std::size_t face : order) {
-        const Shape& shape = shapes[face];
-        std::erase_if(open, [&](std::size_t o) { return shapes[o].high.x <= shape.low.x; });
-        for (const std::size_t other : open) {
-            if (shapes[other].high.y <= shape.low.y || shape.high.y <= shapes[other].low.y) {
-                continue;
-            }
-            const double by = NearerBy(faces[face], shape, faces[other], shapes[other]);
-            if (by > SameDepth) {
-                nearer[other].push_back(face);
-            } else if (by < -SameDepth) {
-                nearer[face].push_back(other);
-            }
-        }
-        open.push_back(face);
-    }
-    return nearer;
-}
-
-} // namespace
-
-std::vector<std::size_t> PaintOrder(const std::vector<PaintedFace>& faces) {
-    std::vector<Shape> shapes;
-    shapes.reserve(faces.size());
-    for (const PaintedFace& face : faces) {
-        shapes.push_back(MakeShape(face));
-    }
-    const std::vector<std::vector<std::size_t>> nearer = FindCoverings(faces, shapes);
-    std::vector<std::size_t> waitsFor(faces.size(), 0);
-    for (const std::vector<std::size_t>& later : nearer) {
-        for (const std::size_t face : later) {
-            ++waitsFor[face];
-        }
-    }
-    // Kahn's order, the farthest of the free faces first. Where none is free the farthest of all
-    // that are left breaks the ring.
-    const auto isLater = [&](std::size_t a, std::size_t b) {
-        return std::make_pair(shapes[a].depth, a) > std::make_pair(shapes[b].depth, b);
+// The part of a face where `side` of the place is above 0; `side` is linear.
+PaintedFace Half(const PaintedFace& face, const std::function<double(const Coordinate&)>& side) {
+    PaintedFace half;
+    half.normal = face.normal;
+    half.offset = face.offset;
+    half.look = face.look;
+    const auto between = [](const Coordinate& a, double atA, const Coordinate& b, double atB) {
+        const double share = atA / (atA - atB);
+        return Coordinate{a.x + share * (b.x - a.x), a.y + share * (b.y - a.y)};
     };
-    std::vector<std::size_t> byDepth(faces.size());
-    std::priority_queue<std::size_t, std::vector<std::size_t>, decltype(isLater)> free(isLater);
-    for (std::size_t i = 0; i < faces.size(); ++i) {
-        byDepth[i] = i;
-        if (waitsFor[i] == 0) {
-            free.push(i);
+    for (const std::vector<Coordinate>& ring : face.rings) {
+        std::vector<Coordinate> kept;
+        for (std::size_t i = 0; i < ring.size(); ++i) {
+            const Coordinate& a = ring[i];
+            const Coordinate& b = ring[(i + 1) % ring.size()];
+            const double atA = side(a);
+            const double atB = side(b);
+            if (atA >= 0.0) {
+                kept.push_back(a);
+            }
+            if ((atA >= 0.0) != (atB >= 0.0)) {
+                kept.push_back(between(a, atA, b, atB));
+            }
+        }
+        if (kept.size() > 2) {
+            half.rings.push_back(std::move(kept));
         }
     }
-    std::sort(byDepth.begin(), byDepth.end(),
-              [&](std::size_t a, std::size_t b) { return isLater(b, a); });
-    std::vector<bool> painted(faces.size());
-    std::vector<std::size_t> order;
-    std::size_t next = 0; // in `byDepth`
-    while (order.size() < faces.size()) {
-        while (painted[byDepth[next]] && next + 1 < byDepth.size()) {
-            ++next;
+    for (const auto& [a, b] : face.edges) {
+        const double atA = side(a);
+        const double atB = side(b);
+        if (atA >= 0.0 || atB >= 0.0) {
+            half.edges.emplace_back(atA >= 0.0 ? a : between(a, atA, b, atB),
+                                    atB >= 0.0 ? b : between(a, atA, b, atB));
         }
-        const std::size_t face = free.empty() ? byDepth[next] : free.top();
-        if (!free.empty()) {
-            free.pop();
+    }
+    return half;
+}
+
+bool IsSliver(const Shape& shape) {
+    return !(shape.high.x - shape.low.x > Sliver || shape.high.y - shape.low.y > Sliver);
+}
+
+// The faces while their order is found: what is cut is given up, and its halves come behind.
+class Sorter {
+public:
+    explicit Sorter(std::vector<PaintedFace> toPaint) {
+        for (PaintedFace& face : toPaint) {
+            Add(std::move(face));
         }
-        if (painted[face]) {
-            continue;
+    }
+
+    std::vector<PaintedFace> Run() {
+        if (faces.size() <= MostFaces) {
+            FindCoverings();
         }
+        const std::vector<std::size_t> byDepth = Sorted();
+        isPainting = true;
+        for (const std::size_t face : byDepth) {
+            if (waitsFor[face] == 0) {
+                free.push(face);
+            }
+        }
+        PaintFree();
+        for (const std::size_t face : byDepth) {
+            PaintLeft(face);
+        }
+        for (std::size_t half = 0; half < faces.size(); ++half) {
+            PaintLeft(half);
+        }
+        std::vector<PaintedFace> sorted;
+        for (const std::size_t face : order) {
+            sorted.push_back(std::move(faces[face]));
+        }
+        return sorted;
+    }
+
+private:
+    // The farthest first, of equals the earlier one.
+    struct FartherFirst {
+        const Sorter* sorter;
+        bool operator()(std::size_t a, std::size_t b) const {
+            return std::make_pair(sorter->shapes[a].depth, a) >
+                   std::make_pair(sorter->shapes[b].depth, b);
+        }
+    };
+    struct LeftFirst {
+        const Sorter* sorter;
+        bool operator()(std::size_t a, std::size_t b) const {
+            return std::make_pair(sorter->shapes[a].low.x, a) >
+                   std::make_pair(sorter->shapes[b].low.x, b);
+        }
+    };
+    template <typename First>
+    using Queue = std::priority_queue<std::size_t, std::vector<std::size_t>, First>;
+
+    void Add(PaintedFace face) {
+        shapes.push_back(MakeShape(face));
+        faces.push_back(std::move(face));
+        nearer.emplace_back();
+        farther.emplace_back();
+        waitsFor.push_back(0);
+        givenUp.push_back(false);
+        painted.push_back(false);
+    }
+
+    bool IsLeft(std::size_t face) const { return !painted[face] && !givenUp[face]; }
+
+    std::vector<std::size_t> Sorted() const {
+        std::vector<std::size_t> sorted;
+        for (std::size_t face = 0; face < faces.size(); ++face) {
+            if (!givenUp[face]) {
+                sorted.push_back(face);
+            }
+        }
+        const FartherFirst isLater{this};
+        std::sort(sorted.begin(), sorted.end(),
+                  [&](std::size_t a, std::size_t b) { return isLater(b, a); });
+        return sorted;
+    }
+
+    // From left to right: the open faces reach as far as the one that is looked at.
+    void FindCoverings() {
+        Queue<LeftFirst> waiting(LeftFirst{this});
+        for (std::size_t i = 0; i < faces.size(); ++i) {
+            waiting.push(i);
+        }
+        std::vector<std::size_t> open;
+        while (!waiting.empty()) {
+            const std::size_t face = waiting.top();
+            waiting.pop();
+            std::erase_if(open, [&](std::size_t other) {
+                return shapes[other].high.x <= shapes[face].low.x;
+            });
+            const std::size_t count = faces.size();
+            bool isCut = false;
+            for (std::size_t i = 0; i < open.size() && !isCut; ++i) {
+                isCut = Relate(face, open[i]).IsBoth() && Cut(face, open[i]);
+            }
+            if (isCut) {
+                for (std::size_t half = count; half < faces.size(); ++half) {
+                    waiting.push(half);
+                }
+            } else {
+                open.push_back(face);
+            }
+        }
+    }
+
+    // Finds which of two faces has to come first.
+    Nearness Relate(std::size_t face, std::size_t other) {
+        if (shapes[other].high.y <= shapes[face].low.y ||
+            shapes[face].high.y <= shapes[other].low.y ||
+            shapes[other].high.x <= shapes[face].low.x ||
+            shapes[face].high.x <= shapes[other].low.x) {
+            return {};
+        }
+        const Nearness nearness = Compare(faces[face], shapes[face], faces[other], shapes[other]);
+        if (std::abs(nearness.Farthest()) > SameDepth) {
+            const std::size_t first = nearness.Farthest() > 0.0 ? other : face;
+            const std::size_t later = nearness.Farthest() > 0.0 ? face : other;
+            nearer[first].push_back(later);
+            farther[later].push_back(first);
+            ++waitsFor[later];
+        }
+        return nearness;
+    }
+
+    // Cuts a face by the plane of another; false where that would leave nothing on a side.
+    bool Cut(std::size_t face, std::size_t by) {
+        if (faces.size() > MostFaces) {
+            return false;
+        }
+        const PaintedFace plane = faces[by];
+        const PaintedFace whole = faces[face];
+        std::vector<PaintedFace> halves;
+        for (const double sign : {1.0, -1.0}) {
+            halves.push_back(Half(whole, [&](const Coordinate& place) {
+                return sign * (DepthAt(whole, place) - DepthAt(plane, place));
+            }));
+            if (halves.back().rings.empty() || IsSliver(MakeShape(halves.back()))) {
+                return false;
+            }
+        }
+        givenUp[face] = true;
+        for (const std::size_t later : nearer[face]) {
+            Release(later);
+        }
+        for (PaintedFace& half : halves) {
+            Add(std::move(half));
+        }
+        return true;
+    }
+
+    void Release(std::size_t face) {
+        if (--waitsFor[face] == 0 && IsLeft(face) && isPainting) {
+            free.push(face);
+        }
+    }
+
+    void Paint(std::size_t face) {
         painted[face] = true;
         order.push_back(face);
         for (const std::size_t later : nearer[face]) {
-            if (--waitsFor[later] == 0) {
-                free.push(later);
+            Release(later);
+        }
+    }
+
+    void PaintFree() {
+        while (!free.empty()) {
+            const std::size_t face = free.top();
+            free.pop();
+            if (IsLeft(face)) {
+                Paint(face);
             }
         }
     }
-    return order;
+
+    // Paints a face that still waits, and all that its being painted sets free.
+    void PaintLeft(std::size_t face) {
+        while (IsLeft(face)) {
+            if (ringsBroken == MostRings || !BreakRing(face)) {
+                Paint(face);
+            }
+            PaintFree();
+        }
+    }
+
+    std::size_t FirstLeft(const std::vector<std::size_t>& candidates) const {
+        for (const std::size_t face : candidates) {
+            if (IsLeft(face)) {
+                return face;
+            }
+        }
+        return faces.size();
+    }
+
+    // Faces that each wait for the next, and the last for the first.
+    std::vector<std::size_t> FindRing(std::size_t face) const {
+        std::vector<std::size_t> road;
+        while (face < faces.size()) {
+            const auto met = std::find(road.begin(), road.end(), face);
+            if (met != road.end()) {
+                return {met, road.end()};
+            }
+            road.push_back(face);
+            face = FirstLeft(farther[face]);
+        }
+        return {};
+    }
+
+    // Cuts one face of the ring that keeps this one waiting; false where none can be cut.
+    bool BreakRing(std::size_t face) {
+        ++ringsBroken;
+        const std::vector<std::size_t> ring = FindRing(face);
+        const std::size_t count = faces.size();
+        bool isCut = false;
+        for (std::size_t i = 0; i < ring.size() && !isCut; ++i) {
+            const std::size_t next = ring[(i + 1) % ring.size()];
+            isCut = Cut(ring[i], next) || Cut(next, ring[i]);
+        }
+        for (std::size_t half = count; half < faces.size(); ++half) {
+            for (std::size_t other = 0; other < half; ++other) {
+                if (IsLeft(other)) {
+                    Relate(half, other);
+                }
+            }
+        }
+        for (std::size_t half = count; half < faces.size(); ++half) {
+            if (waitsFor[half] == 0) {
+                free.push(half);
+            }
+        }
+        return isCut;
+    }
+
+    std::vector<PaintedFace> faces;
+    std::vector<Shape> shapes;
+    std::vector<std::vector<std::size_t>> nearer; // than each: painted later
+    std::vector<std::vector<std::size_t>> farther;
+    std::vector<std::size_t> waitsFor;
+    std::vector<bool> givenUp;
+    std::vector<bool> painted;
+    std::vector<std::size_t> order;
+    bool isPainting = false;
+    int ringsBroken = 0;
+    Queue<FartherFirst> free{FartherFirst{this}};
+};
+
+} // namespace
+
+std::vector<PaintedFace> PaintOrder(std::vector<PaintedFace> faces) {
+    return Sorter(std::move(faces)).Run();
 }
 
 } // namespace Merivane::Workbench
