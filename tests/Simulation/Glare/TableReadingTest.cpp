@@ -52,6 +52,10 @@ TEST(NearestStandardRoom, CountsProportionsAndKeepsTheEarlierOnATie) {
         {12.1, 12, {12, 8}},
         {8, 2, {4, 2}}, // half and twice are as far: 8 x 4 is later
         {3, 2.4, {4, 2}},
+        {100, 0.01, {4, 2}}, // 12 x 4 is nearer in length, and less so in width
+        {5e4, 0, {4, 2}},    // no width counts as a millionth
+        {2e5, 0, {12, 4}},
+        {2e5, 1e-9, {12, 4}},
         {middle, 2, {2, 2}},
         {middle * (1 + 5e-13), 2, {2, 2}}, // nearer to 4, by less than 1e-12 of the square
         {middle * (1 + 1e-12), 2, {4, 2}},

@@ -93,8 +93,8 @@ TEST(AnalyseZoneGlare, TakesTheRoomsOwnReflectances) {
     scene.surfaces = {{0, {{0, 0, 5.8}, {0, 6, 5.8}, {4, 6, 5.8}, {4, 0, 5.8}}, false},
                       {1, {{0, 0, 3}, {0, 0, 5.8}, {4, 0, 5.8}, {4, 0, 3}}, false},
                       // Half of the level faces from 0.30 m up, and none of those below.
-                      {1, {{0, 0, 3.31}, {4, 0, 3.31}, {4, 6, 3.31}, {0, 6, 3.31}}, false},
-                      {1, {{0, 0, 3.29}, {4, 0, 3.29}, {4, 6, 3.29}, {0, 6, 3.29}}, false}};
+                      {1, {{0, 0, 3.301}, {4, 0, 3.301}, {4, 6, 3.301}, {0, 6, 3.301}}, false},
+                      {1, {{0, 0, 3.299}, {4, 0, 3.299}, {4, 6, 3.299}, {0, 6, 3.299}}, false}};
     const ZoneGlare glare = AnalyseZoneGlare(Room(), scene, {}, true, 19, false);
     EXPECT_NEAR(glare.ceilingReflectance, 0.29, 1e-12);
     EXPECT_NEAR(glare.wallReflectance, 0.25, 1e-12);

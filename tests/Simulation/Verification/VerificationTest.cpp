@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <random>
 #include <string_view>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -224,6 +225,18 @@ TEST(VerifyZone, TellsTheSmallestColourRendering) {
             RowOf(input, "Reprodução Ra (IRC)"),
             (VerificationRow{"Reprodução Ra (IRC)", c.calculated, "≥ 80", c.hasData, c.passes, {}}))
             << c.calculated;
+    }
+}
+
+TEST(VerifyZone, AsksForTheColourRenderingOfTheActivity) {
+    const std::vector<std::pair<std::string, std::string>> required = {
+        {"s6.1", "≥ 20"}, {"s1.3", "≥ 40"}, {"s10.1", "≥ 90"}, {"s30.11", "≥ 88"}};
+    for (const auto& [id, text] : required) {
+        VerificationInput input = Office();
+        input.requirement.taskId = id;
+        input.luminaireCount = input.raCount = 1;
+        input.raMinimum = 50.0;
+        EXPECT_EQ(RowOf(input, "Reprodução Ra (IRC)").required, text) << id;
     }
 }
 
