@@ -64,6 +64,21 @@ bool JudgeRange(const char* option, const std::string& text, double lowest, doub
     return false;
 }
 
+bool JudgeFloor(const std::string& text, std::optional<int>& floor, std::string& error) {
+    constexpr double Farthest = 1000.0; // as project files have them
+    if (text.empty()) {
+        return true;
+    }
+    double read = 0.0;
+    if (Text::ReadEntireNumber(text, read) && std::abs(read) <= Farthest &&
+        std::round(read) == read) {
+        floor = static_cast<int>(read);
+        return true;
+    }
+    error = "--pavimento: \"" + text + "\" não é um índice de pavimento";
+    return false;
+}
+
 bool JudgePalette(const std::string& text, std::uint32_t& colorScale, std::string& error) {
     constexpr std::array<std::string_view, 3> names = {"espectro", "calor", "cinza"};
     const auto found = std::find(names.begin(), names.end(), text);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 /// Values of the command line that are no free text. Each judge takes an empty text for "not
@@ -17,6 +18,9 @@ bool JudgePositive(const char* option, const std::string& text, double& value, s
 /// A number from `lowest` to `highest`, both included and above 0.
 bool JudgeRange(const char* option, const std::string& text, double lowest, double highest,
                 double& value, std::string& error);
+
+/// The index of a floor, a whole number from -1000 to 1000.
+bool JudgeFloor(const std::string& text, std::optional<int>& floor, std::string& error);
 
 /// The name of a palette as its number, see `BandColor`.
 bool JudgePalette(const std::string& text, std::uint32_t& colorScale, std::string& error);

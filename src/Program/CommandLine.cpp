@@ -28,7 +28,10 @@ struct RawLine {
     UgrArguments ugr;
     TasksArguments tasks;
     RunArguments run;
+    DrawArguments draw;
     std::string scale;
+    std::string drawingScale;
+    std::string floor;
     std::string palette;
     std::string values;
     std::string height;
@@ -183,6 +186,38 @@ CLI::App* AddRun(CLI::App& app, RawLine& line) {
     return command;
 }
 
+CLI::App* AddDraw(CLI::App& app, RawLine& line) {
+    CLI::App* command = app.add_subcommand("desenhar", "Desenha as janelas de um projeto");
+    Prepare(*command);
+    DrawArguments& arguments = line.draw;
+    command->add_option("PROJETO", arguments.projectFile, "Projeto (.vantoro)")
+        ->required()
+        ->type_name("");
+    command
+        ->add_option("--janela", arguments.window,
+                     "Só a folha, o corte ou a elevação com este nome ou esta referência")
+        ->type_name("NOME");
+    command->add_option("--pavimento", line.floor, "Só a planta do pavimento de índice N")
+        ->type_name("N");
+    command->add_flag("--axonometria", arguments.axonometry,
+                      "Só o modelo em axonometria; com --pavimento, só o desse pavimento");
+    command
+        ->add_option("--saida", arguments.outputFolder,
+                     "Pasta dos desenhos, em SVG, PDF e PNG (a atual)")
+        ->type_name("PASTA");
+    command->add_option("--escala", line.drawingScale, "Escala: 50 para 1:50 (a de cada janela)")
+        ->type_name("N");
+    line.judgements.emplace_back([&line](std::string& error) {
+        if (!line.draw.window.empty() && (line.draw.axonometry || !line.floor.empty())) {
+            error = "--janela não vai junto com --pavimento nem com --axonometria";
+            return false;
+        }
+        return JudgeScale(line.drawingScale, line.draw.scale, error) &&
+               JudgeFloor(line.floor, line.draw.floor, error);
+    });
+    return command;
+}
+
 std::string Before(const std::string& text, std::string_view mark) {
     return text.substr(0, text.find(mark));
 }
@@ -261,6 +296,7 @@ std::vector<Form> AddForms(CLI::App& app, RawLine& line) {
         {AddPlain(app, "comandos", "Mostra o menu: grupos, números e textos"),
          [] { return ListCommandsArguments{}; }},
         {AddRun(app, line), [&line] { return line.run; }},
+        {AddDraw(app, line), [&line] { return line.draw; }},
     };
 }
 

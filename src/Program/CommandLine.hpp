@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -68,10 +69,20 @@ struct RunArguments {
     std::string saveAs;       ///< empty = the project's own file, where the command changed it
 };
 
+/// `vantoro desenhar`: the windows of a project as drawings.
+struct DrawArguments {
+    std::string projectFile;
+    std::string window;       ///< name or reference of a window; empty = see below
+    std::optional<int> floor; ///< the plan of this floor; with `axonometry`, the view of it
+    bool axonometry = false;  ///< the view of the model; without any of the three, all windows
+    std::string outputFolder = "."; ///< of the drawings
+    double scale = 0.0;             ///< denominator; 0 = each window's own
+};
+
 /// What was asked for on the command line; the first alternative when nothing is left to do.
 using Request =
     std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments, TasksArguments,
-                 CheckRadianceArguments, ListCommandsArguments, RunArguments>;
+                 CheckRadianceArguments, ListCommandsArguments, RunArguments, DrawArguments>;
 
 /// How reading the command line ended.
 struct CommandLineResult {

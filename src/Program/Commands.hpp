@@ -13,5 +13,6 @@ int TasksCommand(const TasksArguments& arguments);
 int CheckRadianceCommand(const CheckRadianceArguments& arguments);
 int ListCommandsCommand(const ListCommandsArguments& arguments);
 int RunCommand(const RunArguments& arguments);
+int DrawCommand(const DrawArguments& arguments);
 
 } // namespace Merivane::Program

@@ -30,6 +30,7 @@ struct RunRequest {
         return ListCommandsCommand(arguments);
     }
     int operator()(const RunArguments& arguments) const { return RunCommand(arguments); }
+    int operator()(const DrawArguments& arguments) const { return DrawCommand(arguments); }
 };
 
 int RunProgram(const std::vector<std::string>& arguments) {
