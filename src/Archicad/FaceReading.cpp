@@ -56,21 +56,6 @@ std::vector<std::vector<Point3D>> ReadContours(const Host::Body& body, const Hos
     return contours;
 }
 
-Point3D NewellNormal(const std::vector<Point3D>& polygon) {
-    Point3D normal;
-    // About the first vertex: far from the project's origin the products would lose digits.
-    for (std::size_t i = 1; i + 1 < polygon.size(); ++i) {
-        const Point3D a{polygon[i].x - polygon[0].x, polygon[i].y - polygon[0].y,
-                        polygon[i].z - polygon[0].z};
-        const Point3D b{polygon[i + 1].x - polygon[0].x, polygon[i + 1].y - polygon[0].y,
-                        polygon[i + 1].z - polygon[0].z};
-        normal.x += a.y * b.z - a.z * b.y;
-        normal.y += a.z * b.x - a.x * b.z;
-        normal.z += a.x * b.y - a.y * b.x;
-    }
-    return normal;
-}
-
 Point3D MeanPlace(const std::vector<Point3D>& places) {
     Point3D sum;
     for (const Point3D& place : places) {

@@ -13,9 +13,6 @@ namespace Merivane::Archicad {
 std::vector<std::vector<Simulation::Point3D>> ReadContours(const Host::Body& body,
                                                            const Host::BodyFace& face);
 
-/// Newell's normal: as long as twice the area of the polygon [m2].
-Simulation::Point3D NewellNormal(const std::vector<Simulation::Point3D>& polygon);
-
 /// Mean of the vertices; all 0 without any.
 Simulation::Point3D MeanPlace(const std::vector<Simulation::Point3D>& places);
 

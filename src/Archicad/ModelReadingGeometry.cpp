@@ -17,6 +17,7 @@
 #include "Host/Attributes.hpp"
 #include "Host/Elements.hpp"
 #include "Host/Model3D.hpp"
+#include "Simulation/SurfaceGeometry.hpp"
 
 namespace Merivane::Archicad {
 
@@ -198,7 +199,7 @@ private:
         if (joined.size() < 3) {
             return;
         }
-        const Point3D normal = NewellNormal(joined);
+        const Point3D normal = Simulation::NewellNormal(joined);
         const double length =
             std::sqrt(normal.x * normal.x + normal.y * normal.y + normal.z * normal.z);
         if (!(length >= SmallestDoubledArea)) {

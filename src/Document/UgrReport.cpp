@@ -12,6 +12,7 @@
 #include "Photometry/PhotometricQuantities.hpp"
 #include "Simulation/Glare/ObserverGlare.hpp"
 #include "Simulation/Glare/RoomBackground.hpp"
+#include "Simulation/Glare/UpwardFlux.hpp"
 #include "Simulation/LuminousOpening.hpp"
 #include "Simulation/PrintedValue.hpp"
 #include "Text/ShownText.hpp"
@@ -29,11 +30,9 @@ using Simulation::StandardRooms;
 using Simulation::UgrRoomSize;
 
 constexpr int TypeC = 1;
-constexpr double SmallArea = 0.005;     // [m2], CIE 147
-constexpr double MostUpwardFlux = 0.65; // CIE 117 takes no luminaire above it
-constexpr std::size_t LabelWidth = 12;  // of the text's first column [characters]
-constexpr std::size_t ValueWidth = 7;   // of its other columns
-constexpr std::size_t GroupGap = 4;     // between crosswise and lengthwise
+constexpr std::size_t LabelWidth = 12; // of the text's first column [characters]
+constexpr std::size_t ValueWidth = 7;  // of its other columns
+constexpr std::size_t GroupGap = 4;    // between crosswise and lengthwise
 
 /// Why a file has no table; empty when it has one.
 std::string Refusal(const IesReport& file) {
@@ -80,8 +79,8 @@ void Calculate(UgrReport& report) {
     report.table = Simulation::UgrTable(luminaire, report.height, options);
     report.referenceUgr = Simulation::ReferenceRoomUgr(luminaire, report.height, options);
     report.upwardFlux = Simulation::UpwardFluxFraction(report.photometry);
-    report.isSmall =
-        Simulation::DownwardArea(Simulation::DeclaredOpening(report.photometry)) < SmallArea;
+    report.isSmall = Simulation::DownwardArea(Simulation::DeclaredOpening(report.photometry)) <
+                     Simulation::SmallSourceArea;
     if (report.isSmall) {
         Simulation::GlareOptions small = options;
         small.smallSourceTerm = true;
@@ -230,7 +229,7 @@ UgrReport BuildUgrReport(const IesReport& file, double height) {
 }
 
 std::string UpwardWarning(double upwardFlux) {
-    if (!(upwardFlux > MostUpwardFlux)) {
+    if (!(upwardFlux > Simulation::MostUpwardFlux)) {
         return "";
     }
     return FormatDecimal(100.0 * upwardFlux, 0) +

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Simulation/PolygonGeometry.hpp"
+#include "Simulation/SurfaceGeometry.hpp"
 
 namespace Merivane::Simulation {
 
@@ -26,7 +27,7 @@ struct MeanSum {
 
 void Add(MeanSum& sum, double area, const SceneMaterial& material) {
     sum.area += area;
-    sum.reflected += (0.265 * material.red + 0.67 * material.green + 0.065 * material.blue) * area;
+    sum.reflected += GreyReflectance(material) * area;
 }
 
 void SetMean(const MeanSum& sum, double& mean) {
@@ -44,19 +45,6 @@ Point3D MiddleOf(const std::vector<Point3D>& vertices) {
     }
     const auto count = static_cast<double>(vertices.size());
     return {middle.x / count, middle.y / count, middle.z / count};
-}
-
-/// Newell's normal, twice the area long.
-Point3D NewellNormal(const std::vector<Point3D>& vertices) {
-    Point3D normal;
-    for (std::size_t i = 0; i < vertices.size(); ++i) {
-        const Point3D& a = vertices[i];
-        const Point3D& b = vertices[(i + 1) % vertices.size()];
-        normal.x += (a.y - b.y) * (a.z + b.z);
-        normal.y += (a.z - b.z) * (a.x + b.x);
-        normal.z += (a.x - b.x) * (a.y + b.y);
-    }
-    return normal;
 }
 
 bool IsNear(const ZoneSpace& zone, const Bounds2D& plan, const Point3D& place) {

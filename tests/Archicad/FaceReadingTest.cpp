@@ -75,24 +75,6 @@ TEST(ReadContours, PlacesTheBody) {
     EXPECT_EQ(read[0][1], (Point3D{5, 13, 21}));
 }
 
-TEST(NewellNormal, IsAsLongAsTwiceTheArea) {
-    EXPECT_EQ(NewellNormal(Square), (Point3D{0, 0, 2}));
-    EXPECT_EQ(NewellNormal({{0, 0, 0}, {0, 0, 1}, {0, 2, 1}, {0, 2, 0}}), (Point3D{-4, 0, 0}));
-    EXPECT_EQ(NewellNormal({{0, 0, 0}, {1, 0, 0}}), Point3D{});
-    // A dent counts off.
-    EXPECT_EQ(NewellNormal({{0, 0, 5}, {2, 0, 5}, {2, 2, 5}, {1, 1, 5}, {0, 2, 5}}),
-              (Point3D{0, 0, 6}));
-}
-
-TEST(NewellNormal, LosesNoDigitsFarFromTheOrigin) {
-    constexpr double far = 1e6;
-    const Point3D normal = NewellNormal({{far, far, 0},
-                                         {far + 0.125, far, 0},
-                                         {far + 0.125, far + 0.125, 0},
-                                         {far, far + 0.125, 0}});
-    EXPECT_EQ(normal, (Point3D{0, 0, 2 * 0.125 * 0.125}));
-}
-
 TEST(MeanPlace, IsThatOfTheVertices) {
     EXPECT_EQ(MeanPlace(Square), (Point3D{0.5, 0.5, 0}));
     EXPECT_EQ(MeanPlace({{1, 2, 3}}), (Point3D{1, 2, 3}));

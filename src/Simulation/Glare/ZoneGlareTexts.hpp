@@ -17,10 +17,7 @@ std::string ModelLogLine(const ModelGlare& model, const ReflectanceSet& room);
 /// The same for the sheet. With `several` models over the Zone it always says which.
 std::string ModelNote(const ModelGlare& model, const ReflectanceSet& room, bool several);
 
-/// Part of the light that may go up before the method fails [0..1].
-inline constexpr double MostUpwardFlux = 0.65;
-
-/// The warning for a model that sends more than that up.
+/// The warning for a model that sends more than `MostUpwardFlux` up.
 std::string UpwardFluxWarning(const ModelGlare& model);
 
 /// What an observer of the real room sees; `floorLevel` [m] is that of the Zone.

@@ -5,6 +5,7 @@
 
 #include "Radiance/RtraceOptions.hpp"
 #include "Simulation/PrintedValue.hpp"
+#include "Simulation/SurfaceGeometry.hpp"
 
 namespace Merivane::Simulation {
 
@@ -17,20 +18,13 @@ constexpr double AcceptedOmission = 0.05;
 
 // Area of a flat polygon in space [m2]: half the length of Newell's normal.
 double PolygonArea(const std::vector<Point3D>& vertices) {
-    Point3D normal;
-    for (std::size_t i = 0; i < vertices.size(); ++i) {
-        const Point3D& a = vertices[i];
-        const Point3D& b = vertices[(i + 1) % vertices.size()];
-        normal.x += (a.y - b.y) * (a.z + b.z);
-        normal.y += (a.z - b.z) * (a.x + b.x);
-        normal.z += (a.x - b.x) * (a.y + b.y);
-    }
+    const Point3D normal = NewellNormal(vertices);
     return std::hypot(normal.x, normal.y, normal.z) / 2.0;
 }
 
 double Reflectance(const SceneMaterial& material, bool exteriorFace) {
     if (!material.isGlass) {
-        return 0.265 * material.red + 0.67 * material.green + 0.065 * material.blue;
+        return GreyReflectance(material);
     }
     if (material.reflectanceInside < 0.0) {
         return PlainGlassReflectance;
