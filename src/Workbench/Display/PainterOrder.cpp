@@ -19,7 +19,9 @@ constexpr double SameDepth = 1e-6;   // faces that touch do not cover each other
 constexpr double GoesThrough = 5e-4; // how far beyond each other faces are cut apart [m]
 constexpr double Parallel = 1e-12;   // [m2]
 constexpr double InsideSide = 1e-7;  // share of a side that counts as its inside
-constexpr double Sliver = 1e-4;      // narrower pieces are not cut off [m]
+
+constexpr double Sliver = 1e-7; // smaller pieces are not cut off [m2]
+constexpr double Apart = 1e-3;  // nearer places are not cut apart [m]
 constexpr std::size_t MostFaces = 30000;
 constexpr int MostRings = 2000;
 
@@ -99,8 +101,12 @@ Shape MakeShape(const PaintedFace& face) {
 struct Nearness {
     double least = 0.0;   // at most 0
     double largest = 0.0; // at least 0
+    Coordinate leastPlace;
+    Coordinate largestPlace;
 
-    double Farthest() const { return -least > largest ? least : largest; }
+    bool IsFarther() const { return -least > largest; }
+    double Farthest() const { return IsFarther() ? least : largest; }
+    Coordinate FarthestPlace() const { return IsFarther() ? leastPlace : largestPlace; }
     bool IsBoth() const { return least < -GoesThrough && largest > GoesThrough; }
 };
 
@@ -110,8 +116,14 @@ public:
 
     void LookAt(const Coordinate& place) {
         const double here = DepthAt(a, place) - DepthAt(b, place);
-        found.least = std::min(found.least, here);
-        found.largest = std::max(found.largest, here);
+        if (here < found.least) {
+            found.least = here;
+            found.leastPlace = place;
+        }
+        if (here > found.largest) {
+            found.largest = here;
+            found.largestPlace = place;
+        }
     }
 
     void LookAtCrossing(const Side& one, const Side& two) {
@@ -208,8 +220,17 @@ PaintedFace Half(const PaintedFace& face, const std::function<double(const Coord
     return half;
 }
 
-bool IsSliver(const Shape& shape) {
-    return !(shape.high.x - shape.low.x > Sliver || shape.high.y - shape.low.y > Sliver);
+// Of the rings of a face, holes taken off or not: a face without area has none in any ring.
+bool HasArea(const PaintedFace& face) {
+    double area = 0.0;
+    for (const std::vector<Coordinate>& ring : face.rings) {
+        for (std::size_t i = 1; i + 1 < ring.size(); ++i) {
+            area += ((ring[i].x - ring[0].x) * (ring[i + 1].y - ring[0].y) -
+                     (ring[i].y - ring[0].y) * (ring[i + 1].x - ring[0].x)) /
+                    2.0;
+        }
+    }
+    return std::abs(area) > Sliver;
 }
 
 // The faces while their order is found: what is cut is given up, and its halves come behind.
@@ -306,7 +327,7 @@ private:
             const std::size_t count = faces.size();
             bool isCut = false;
             for (std::size_t i = 0; i < open.size() && !isCut; ++i) {
-                isCut = Relate(face, open[i]).IsBoth() && Cut(face, open[i]);
+                isCut = Relate(face, open[i]).IsBoth() && CutByPlane(face, open[i]);
             }
             if (isCut) {
                 for (std::size_t half = count; half < faces.size(); ++half) {
@@ -337,34 +358,46 @@ private:
         return nearness;
     }
 
-    // Cuts a face by the plane of another; false where that would leave nothing on a side.
-    bool Cut(std::size_t face, std::size_t by) {
+    // Cuts a face where it goes through the plane of another.
+    bool CutByPlane(std::size_t face, std::size_t by) {
+        const PaintedFace plane = faces[by];
+        const PaintedFace whole = faces[face];
+        return Cut(face, [&](const Coordinate& place) {
+            return DepthAt(whole, place) - DepthAt(plane, place);
+        });
+    }
+
+    // Cuts a face half way between two places.
+    bool CutBetween(std::size_t face, const Coordinate& a, const Coordinate& b) {
+        const Coordinate middle = {(a.x + b.x) / 2.0, (a.y + b.y) / 2.0};
+        return Cut(face, [&](const Coordinate& place) {
+            return (place.x - middle.x) * (b.x - a.x) + (place.y - middle.y) * (b.y - a.y);
+        });
+    }
+
+    // Cuts a face where `side`, which is linear, is 0; false where that would leave nothing on
+    // either side.
+    bool Cut(std::size_t face, const std::function<double(const Coordinate&)>& side) {
         if (faces.size() > MostFaces) {
             return false;
         }
-        const PaintedFace plane = faces[by];
         const PaintedFace whole = faces[face];
-        std::vector<PaintedFace> halves;
-        for (const double sign : {1.0, -1.0}) {
-            halves.push_back(Half(whole, [&](const Coordinate& place) {
-                return sign * (DepthAt(whole, place) - DepthAt(plane, place));
-            }));
-            if (halves.back().rings.empty() || IsSliver(MakeShape(halves.back()))) {
-                return false;
-            }
+        PaintedFace one = Half(whole, side);
+        PaintedFace other = Half(whole, [&side](const Coordinate& place) { return -side(place); });
+        if (!HasArea(one) || !HasArea(other)) {
+            return false;
         }
         givenUp[face] = true;
         for (const std::size_t later : nearer[face]) {
             Release(later);
         }
-        for (PaintedFace& half : halves) {
-            Add(std::move(half));
-        }
+        Add(std::move(one));
+        Add(std::move(other));
         return true;
     }
 
     void Release(std::size_t face) {
-        if (--waitsFor[face] == 0 && IsLeft(face) && isPainting) {
+        if (--waitsFor[face] == 0 && isPainting) {
             free.push(face);
         }
     }
@@ -381,7 +414,7 @@ private:
         while (!free.empty()) {
             const std::size_t face = free.top();
             free.pop();
-            if (IsLeft(face)) {
+            if (IsLeft(face) && waitsFor[face] == 0) { // halves may have come in front since
                 Paint(face);
             }
         }
@@ -406,6 +439,10 @@ private:
         return faces.size();
     }
 
+    Coordinate PlaceOf(std::size_t a, std::size_t b) const {
+        return Compare(faces[a], shapes[a], faces[b], shapes[b]).FarthestPlace();
+    }
+
     // Faces that each wait for the next, and the last for the first.
     std::vector<std::size_t> FindRing(std::size_t face) const {
         std::vector<std::size_t> road;
@@ -420,16 +457,28 @@ private:
         return {};
     }
 
-    // Cuts one face of the ring that keeps this one waiting; false where none can be cut.
+    // Cuts one face of the ring that keeps this one waiting, between the places where it lies over
+    // the one and under the other; false where none can be cut.
     bool BreakRing(std::size_t face) {
         ++ringsBroken;
         const std::vector<std::size_t> ring = FindRing(face);
         const std::size_t count = faces.size();
-        bool isCut = false;
-        for (std::size_t i = 0; i < ring.size() && !isCut; ++i) {
-            const std::size_t next = ring[(i + 1) % ring.size()];
-            isCut = Cut(ring[i], next) || Cut(next, ring[i]);
+        double widest = Apart;
+        std::size_t chosen = ring.size();
+        Coordinate over;
+        Coordinate under;
+        for (std::size_t i = 0; i < ring.size(); ++i) {
+            const Coordinate a = PlaceOf(ring[i], ring[(i + 1) % ring.size()]);
+            const Coordinate b = PlaceOf(ring[i], ring[(i + ring.size() - 1) % ring.size()]);
+            const double apart = std::hypot(b.x - a.x, b.y - a.y);
+            if (apart > widest) {
+                widest = apart;
+                chosen = i;
+                over = a;
+                under = b;
+            }
         }
+        const bool isCut = chosen < ring.size() && CutBetween(ring[chosen], over, under);
         for (std::size_t half = count; half < faces.size(); ++half) {
             for (std::size_t other = 0; other < half; ++other) {
                 if (IsLeft(other)) {

@@ -20,9 +20,10 @@ struct PaintedFace {
 
 /// The faces in an order in which nearer ones, painted later, cover farther ones: where two lie
 /// over each other on the paper, the one that is farther there comes first. Faces that go through
-/// each other, that are nearer here and farther there, or that each cover the next in a ring are
-/// cut by each other's planes. Where nothing overlaps the farther one by its middle comes first,
-/// then the earlier one; models of over 30000 faces are ordered so alone.
+/// each other, or are nearer here and farther there, are cut by each other's planes; of faces that
+/// each cover the next in a ring one is cut between its neighbours. Where nothing overlaps the
+/// farther one by its middle comes first, then the earlier one; models of over 30000 faces are
+/// ordered so alone.
 std::vector<PaintedFace> PaintOrder(std::vector<PaintedFace> faces);
 
 } // namespace Merivane::Workbench

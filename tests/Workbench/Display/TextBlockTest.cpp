@@ -120,6 +120,16 @@ TEST(TextBlock, SetsLinesAtTheSideOfItsAnchor) {
     EXPECT_NEAR(runs[1].position.x, -Width("b", 2.0), Near);
 }
 
+TEST(TextBlock, KeepsLinesWithTabsAtTheLeftOfTheBlock) {
+    Host::TextData text;
+    text.anchor = TextAnchor::RightTop;
+    const Host::TextParagraph table = {"a\tb", {{3, 1, 2.0, false}}, {5.0}};
+    const auto runs = LayOutText(text, {Plain("mais comprida", 13), table}, {0, 0});
+    ASSERT_EQ(runs.size(), 3U);
+    EXPECT_NEAR(runs[1].position.x, -Width("mais comprida", 2.0), Near);
+    EXPECT_NEAR(runs[2].position.x, 5.0 - Width("mais comprida", 2.0), Near);
+}
+
 TEST(TextBlock, TurnsAboutItsPosition) {
     Host::TextData text;
     text.anchor = TextAnchor::RightTop;
