@@ -183,7 +183,8 @@ void AddOfficeLuminaires(ProjectBuilder& builder) {
     Workbench::ProjectElement& broken = placer.Put(walls, {7.35, 9.0});
     LibraryParameter& table = placer.Override(broken, "mvCandela");
     table.dim1 -= 1;
-    table.numbers.resize(static_cast<std::size_t>(table.dim1 * table.dim2));
+    table.numbers.resize(static_cast<std::size_t>(table.dim1) *
+                         static_cast<std::size_t>(table.dim2));
 
     placer.PutGrid({downlight, 0, CeilingHeight, 0.0, "C3"}, {12.54}, {1.3, 3.7, 6.1, 8.5});
 

@@ -199,6 +199,7 @@ struct Shell {
     void Beam() const {
         std::vector<Workbench::ElementPart> parts;
         const std::vector<std::pair<double, double>> spans = {{0.1, 8.0}, {8.0, 11.95}};
+        parts.reserve(spans.size());
         for (const auto& [from, to] : spans) {
             parts.push_back(MakePart(builder, ElementType::BeamSegment,
                                      Workbench::BarGeometry{{from, 3.0, RoomHeight},

@@ -141,6 +141,7 @@ Drawing::PngOptions ResolutionFor(const Drawing::DisplayList& list) {
 bool WriteDrawings(const std::vector<NamedDrawing>& drawings, std::vector<OutputFile>& files,
                    std::string& error) {
     std::vector<std::string> titles;
+    titles.reserve(drawings.size());
     for (const NamedDrawing& drawing : drawings) {
         titles.push_back(drawing.title);
     }
@@ -153,7 +154,7 @@ bool WriteDrawings(const std::vector<NamedDrawing>& drawings, std::vector<Output
         if (!Drawing::WriteSvg(list, svg.bytes, error) ||
             !Drawing::WritePdf(list, pdf.bytes, error) ||
             !Drawing::WritePng(list, png.bytes, error, ResolutionFor(list))) {
-            error = "\"" + drawings[i].title + "\": " + error;
+            error.insert(0, "\"" + drawings[i].title + "\": ");
             return false;
         }
         files.push_back(std::move(svg));

@@ -162,10 +162,11 @@ std::vector<Drawing::TextRun> LayOutText(const Host::TextData& text,
         height += &line == &lines.front() ? line.size : TextLineStep * line.size;
     }
     const auto anchor = static_cast<std::int32_t>(text.anchor);
+    const std::int32_t row = anchor / 3;
     const double side = anchor % 3 / 2.0; // 0 left, 1 right
     const double cosine = std::cos(text.angle);
     const double sine = std::sin(text.angle);
-    double base = height * (anchor / 3) / 2.0;
+    double base = height * row / 2.0;
     std::vector<Drawing::TextRun> runs;
     for (const Line& line : lines) {
         base -= &line == &lines.front() ? line.size : TextLineStep * line.size;
