@@ -63,7 +63,7 @@ TEST(CommandLine, ShowsItsHelpInPortuguese) {
         EXPECT_NE(end.output.find("Uso: vantoro [OPÇÕES] COMANDO"), std::string::npos)
             << end.output;
         for (const std::string command :
-             {"simular", "ies", "verificar-radiance", "comandos", "executar"}) {
+             {"simular", "ies", "verificar-radiance", "comandos", "executar", "desenhar"}) {
             EXPECT_NE(end.output.find("\n  " + command), std::string::npos) << end.output;
         }
     }
@@ -71,7 +71,7 @@ TEST(CommandLine, ShowsItsHelpInPortuguese) {
 
 TEST(CommandLine, ShowsNoEnglishWordInAnyHelp) {
     for (const std::string command :
-         {"simular", "ies", "verificar-radiance", "comandos", "executar"}) {
+         {"simular", "ies", "verificar-radiance", "comandos", "executar", "desenhar"}) {
         const ProgramEnd end = RunVantoro({command, "--ajuda"});
         EXPECT_EQ(end.status, 0);
         for (const std::string word : {"Usage", "OPTIONS", "Options", "REQUIRED", "Positionals",
