@@ -49,15 +49,9 @@ TEST(TakeFields, IgnoresAChangeUnder6In10000) {
         bool changes;
     };
     const Case cases[] = {
-        {0.25, 25.0, false},
-        {0.25, 25.05, false},
-        {0.25, 25.059, false},
-        {0.25, 24.941, false},
-        {0.25, 25.061, true},
-        {0.25, 24.939, true},
-        {0.25, 25.1, true},
-        {0.25, 95.0, true},
-        {0.0, 0.06, true}, // exactly at the edge
+        {0.25, 25.0, false},     {0.25, 25.05, false}, {0.25, 25.059, false},
+        {0.25, 24.941, false},   {0.25, 25.061, true}, {0.25, 24.939, true},
+        {0.25, 25.1, true},      {0.25, 95.0, true},   {0.0, 0.06, true}, // exactly at the edge
         {0.0, 0.0599999, false},
     };
     for (const Case& c : cases) {

@@ -90,11 +90,16 @@ TEST(CheckAgainstTask, ComparesTheUniformityAsPrinted) {
         bool ok;
     };
     const Case cases[] = {
-        {0.695, 0.7, true},                                               // prints as 0,70
-        {0.6949, 0.7, false},    {0.7, 0.7, true}, {0.704, 0.705, false}, // prints as 0,70, and the
-                                                                          // limit as 0,71
-        {0.695, 0.7049, true},                                            // both print as 0,70
-        {0.6949, 0.7049, false}, {0.0, 0.0, true}, {0.004, 0.01, false},  {0.005, 0.01, true},
+        {0.695, 0.7, true}, // prints as 0,70
+        {0.6949, 0.7, false},
+        {0.7, 0.7, true},
+        {0.704, 0.705, false}, // prints as 0,70, and the
+                               // limit as 0,71
+        {0.695, 0.7049, true}, // both print as 0,70
+        {0.6949, 0.7049, false},
+        {0.0, 0.0, true},
+        {0.004, 0.01, false},
+        {0.005, 0.01, true},
         {1.0, 1.0, true},
     };
     for (const Case& c : cases) {
