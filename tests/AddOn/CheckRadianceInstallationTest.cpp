@@ -26,7 +26,7 @@ protected:
     /// An installation of its own beside the add-on: links to the real programs.
     std::filesystem::path CopyInstallation() const {
         const std::filesystem::path real = Tests::BuildFolder() / "Vantoro Radiance";
-        const std::filesystem::path copy = Folder() / "Vantoro Radiance";
+        std::filesystem::path copy = Folder() / "Vantoro Radiance";
         std::filesystem::create_directories(copy / "bin");
         for (const std::string tool : {"ies2rad", "xform", "oconv", "rtrace"}) {
             std::filesystem::create_symlink(real / "bin" / tool, copy / "bin" / tool);

@@ -112,9 +112,11 @@ TEST_F(EngineDialog, FoldsTheAdvancedBlockInAndOut) {
 
 TEST_F(EngineDialog, MovesNothingSidewaysAndKeepsItsWidth) {
     Look(R"({"item": 7, "marcado": true})");
-    const Workbench::Dialog open = Tests::LastDialog();
     Look();
-    const Workbench::Dialog& folded = Tests::LastDialog();
+    const auto& shown = Workbench::CurrentSession().userInterface.shownDialogs;
+    ASSERT_EQ(shown.size(), 2U);
+    const Workbench::Dialog& open = shown[0].state;
+    const Workbench::Dialog& folded = shown[1].state;
     EXPECT_EQ(folded.width, open.width);
     for (std::size_t i = 0; i < open.items.size(); ++i) {
         EXPECT_EQ(folded.items[i].place.left, open.items[i].place.left) << i + 1;

@@ -285,14 +285,15 @@ TEST(CollectLuminaires, TellsOfALinearOneThatCannotBeRead) {
     const Collected collected = Collect(std::move(project));
     EXPECT_EQ(collected.luminaires.size(), 1U);
     EXPECT_EQ(collected.guids.size(), 5U);
-    EXPECT_EQ(collected.log,
-              (Strings{"luminaria linear Fita \xC2\xB0 ignorada: percurso da luminaria linear com "
-                       "menos de 2 pontos",
-                       "luminaria linear COD-1 ignorada: percurso da luminaria linear ilegivel",
-                       "luminaria linear COD-1 ignorada: luminaria linear de versao mais nova (2)",
-                       "1 fita(s) / linear(es), 100 cm em 1 trecho(s) do comprimento medido no IES",
-                       "1 luminaria(s) desligada(s) (mvLightOn) fora do calculo",
-                       "3 luminaria(s) com fotometria ilegivel fora do calculo"}));
+    const std::string tooShort = "luminaria linear Fita \xC2\xB0 ignorada: percurso da luminaria "
+                                 "linear com menos de 2 pontos";
+    EXPECT_EQ(
+        collected.log,
+        (Strings{tooShort, "luminaria linear COD-1 ignorada: percurso da luminaria linear ilegivel",
+                 "luminaria linear COD-1 ignorada: luminaria linear de versao mais nova (2)",
+                 "1 fita(s) / linear(es), 100 cm em 1 trecho(s) do comprimento medido no IES",
+                 "1 luminaria(s) desligada(s) (mvLightOn) fora do calculo",
+                 "3 luminaria(s) com fotometria ilegivel fora do calculo"}));
 }
 
 TEST(CollectLuminaires, LeavesOutWhatTheHostDoesNotGive) {
