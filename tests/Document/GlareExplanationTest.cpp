@@ -125,26 +125,25 @@ ExplainedRoom RealRoom(double openingSide, bool smallSourceTerm) {
 } // namespace
 
 TEST(GlareExplanation, TellsARowForEachLightTheLargestShareFirst) {
-    EXPECT_EQ(
-        GlareExplanationLines(SampleExplanation()),
-        (std::vector<std::string>{
-            "Sala de prova",
-            "",
-            "Observador: meio da parede",
-            "  olho em (0,500; 0,010; 1,200) m, visada (0,000; 1,000)",
-            "  UGR 16,000 = 8 log10(0,25 / Lb x soma), Lb 10 cd/m², soma 4000 cd²/m⁴",
-            "  2 luminária(s) na soma, 1 de fora",
-            "   nº    x (m)    y (m)    z (m)   r (m)    H/R    T/R  σ (°)  τ (°)     I (cd)      "
-            "A (m²)  L (cd/m²)      ω (sr)        p       termo       %",
-            "    2    4,000    5,000    3,000   2,000  0,500  0,250  30,00  26,57        100      "
-            "   0,1       1000       0,025      2,5        3000   75,00",
-            "    1    1,000    2,000    3,000   2,000  0,500  0,250  30,00  26,57        100      "
-            "   0,1       1000       0,025      2,5        1000   25,00",
-            "    3    7,000    8,000    3,000   2,500  2,000  0,000      –      –          –      "
-            "     –          –           –        –           –       –  fora da tabela do índice "
-            "de "
-            "posição (H/R até 1,9, T/R até 3)",
-        }));
+    const std::string head = "   nº    x (m)    y (m)    z (m)   r (m)    H/R    T/R  σ (°"
+                             ")  τ (°)     I (cd)      A (m²)  L (cd/m²)      ω (sr)      "
+                             "  p       termo       %";
+    const std::string largest = "    2    4,000    5,000    3,000   2,000  0,500  0,250  30,0"
+                                "0  26,57        100         0,1       1000       0,025      "
+                                "2,5        3000   75,00";
+    const std::string second = "    1    1,000    2,000    3,000   2,000  0,500  0,250  30,0"
+                               "0  26,57        100         0,1       1000       0,025      "
+                               "2,5        1000   25,00";
+    const std::string leftOut = "    3    7,000    8,000    3,000   2,500  2,000  0,000      "
+                                "–      –          –           –          –           –      "
+                                "  –           –       –  fora da tabela do índice de posição"
+                                " (H/R até 1,9, T/R até 3)";
+    EXPECT_EQ(GlareExplanationLines(SampleExplanation()),
+              (std::vector<std::string>{
+                  "Sala de prova", "", "Observador: meio da parede",
+                  "  olho em (0,500; 0,010; 1,200) m, visada (0,000; 1,000)",
+                  "  UGR 16,000 = 8 log10(0,25 / Lb x soma), Lb 10 cd/m², soma 4000 cd²/m⁴",
+                  "  2 luminária(s) na soma, 1 de fora", head, largest, second, leftOut}));
 }
 
 TEST(GlareExplanation, NamesTheLightsWhereTheirNamesDiffer) {
