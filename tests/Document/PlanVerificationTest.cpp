@@ -45,6 +45,7 @@ Drawing::DisplayList Summary(const PlanVerdict& verdict) {
 /// The heights of these texts on the sheet, from the head down.
 std::vector<double> Drops(const Drawing::DisplayList& list, const std::vector<std::string>& texts) {
     std::vector<double> drops;
+    drops.reserve(texts.size());
     for (const std::string& text : texts) {
         drops.push_back(-FindText(list, text).position.y);
     }

@@ -50,12 +50,13 @@ TEST(UgrSheet, IsAnUprightA4WithTheTableInAFrame) {
 
 TEST(UgrSheet, TellsTheLuminaireAndHowItWasCalculated) {
     const Drawing::DisplayList list = BuildUgrSheet(MadeUpReport());
+    const char* const conditions = "H = 2,00 m (luminárias acima do olho a 1,20 m)   |   "
+                                   "espaçamento 0,25 H   |   fluxo inicial 3600 lm";
     for (const char* text :
          {"Painel",
           "Exemplo · P-63 · painel.ies",
           "Tabela UGR (método tabular, CIE 117)",
-          "H = 2,00 m (luminárias acima do olho a 1,20 m)   |   espaçamento 0,25 H   |   fluxo "
-          "inicial 3600 lm",
+          conditions,
           "Visada transversal ao eixo da lâmpada",
           "Visada ao longo do eixo da lâmpada",
           "Refletâncias",

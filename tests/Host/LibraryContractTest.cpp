@@ -43,7 +43,8 @@ LibraryParameter Table(std::string name, std::int32_t rows, std::int32_t columns
     parameter.isArray = true;
     parameter.dim1 = rows;
     parameter.dim2 = columns;
-    parameter.numbers.assign(static_cast<std::size_t>(rows * columns), 0.5);
+    parameter.numbers.assign(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns),
+                             0.5);
     return parameter;
 }
 
