@@ -210,9 +210,9 @@ Calls StoreCalls() {
 
 Calls SessionCalls() {
     static std::wstring path;
-    static const auto handleMenu = [](std::int16_t, std::int16_t) { return Host::NoError; };
-    static const auto handleEvent = [](std::int32_t) { return Host::NoError; };
-    static const auto handlePalette = [](Host::PaletteMessage, bool&) { return Host::NoError; };
+    static const auto HandleMenu = [](std::int16_t, std::int16_t) { return Host::NoError; };
+    static const auto HandleEvent = [](std::int32_t) { return Host::NoError; };
+    static const auto HandlePalette = [](Host::PaletteMessage, bool&) { return Host::NoError; };
     return {
         {"GetOwnLocation", [] { return Host::GetOwnLocation(path); }},
         {"GetTemporaryFolder", [] { return Host::GetTemporaryFolder(path); }},
@@ -223,11 +223,11 @@ Calls SessionCalls() {
         {"CloseProcessWindow", [] { return Host::CloseProcessWindow(); }},
         {"OpenFolder", [] { return Host::OpenFolder(L"/"); }},
         {"RegisterMenu", [] { return Host::RegisterMenu(32500, false); }},
-        {"InstallMenuHandler", [] { return Host::InstallMenuHandler(32500, handleMenu); }},
+        {"InstallMenuHandler", [] { return Host::InstallMenuHandler(32500, HandleMenu); }},
         {"CatchProjectEvents",
-         [] { return Host::CatchProjectEvents(Host::ProjectNew, handleEvent); }},
+         [] { return Host::CatchProjectEvents(Host::ProjectNew, HandleEvent); }},
         {"RegisterPalette",
-         [] { return Host::RegisterPalette(WallGuid(), handlePalette, Host::PaletteEverywhere); }},
+         [] { return Host::RegisterPalette(WallGuid(), HandlePalette, Host::PaletteEverywhere); }},
         {"UnregisterPalette", [] { return Host::UnregisterPalette(WallGuid()); }},
         {"RunDialog",
          [] {
