@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "Simulation/PolygonGeometry.hpp"
+#include "Simulation/SurfaceGeometry.hpp"
 
 // Holes are joined from the right to the left (Eberly, Triangulation by Ear Clipping): from the
 // rightmost vertex P of a hole a ray runs to the right until it meets the ring. An end M of the
@@ -45,21 +46,6 @@ double SignedArea(const Ring& ring) {
         area += Turn(ring[0].flat, ring[i].flat, ring[i + 1].flat) / 2.0;
     }
     return area;
-}
-
-/// Newell's normal, about the first vertex.
-Point3D NormalOf(const std::vector<Point3D>& contour) {
-    Point3D normal;
-    for (std::size_t i = 1; i + 1 < contour.size(); ++i) {
-        const Point3D a{contour[i].x - contour[0].x, contour[i].y - contour[0].y,
-                        contour[i].z - contour[0].z};
-        const Point3D b{contour[i + 1].x - contour[0].x, contour[i + 1].y - contour[0].y,
-                        contour[i + 1].z - contour[0].z};
-        normal.x += a.y * b.z - a.z * b.y;
-        normal.y += a.z * b.x - a.x * b.z;
-        normal.z += a.x * b.y - a.y * b.x;
-    }
-    return normal;
 }
 
 /// The two coordinates along which a face with this normal is widest.
@@ -290,7 +276,7 @@ std::vector<Point3D> JoinHoles(const std::vector<std::vector<Point3D>>& contours
     if (contours.empty()) {
         return {};
     }
-    const Point3D normal = NormalOf(contours[0]);
+    const Point3D normal = Simulation::NewellNormal(contours[0]);
     if (contours.size() == 1 || (normal.x == 0.0 && normal.y == 0.0 && normal.z == 0.0)) {
         return contours[0];
     }
