@@ -59,6 +59,9 @@ ErrorCode GetLineType(AttributeIndex index, LineType& lineType);
 /// BadParameters for an odd number of lengths, one below 0, or none above 0; AttributeExists.
 ErrorCode CreateLineType(const LineType& lineType, AttributeIndex& index);
 
+/// BadParameters as above; NameInUse.
+ErrorCode ChangeLineType(AttributeIndex index, const LineType& lineType);
+
 enum class FillKind : std::int32_t { Vector = 0, Symbol = 1, Solid = 2, Empty = 3 };
 
 struct Fill {
@@ -96,7 +99,8 @@ struct LayerCombination {
 ErrorCode GetLayerCombination(AttributeIndex index, LayerCombination& combination);
 
 /// BadParameters unless every layer has exactly one state; RefusedParameters where the first layer
-/// is hidden or locked; AttributeExists, and for a change NameInUse.
+/// is hidden or locked; AttributeExists, and for a change NameInUse. Views of a combination follow
+/// its new name.
 ErrorCode CreateLayerCombination(const LayerCombination& combination, AttributeIndex& index);
 ErrorCode ChangeLayerCombination(AttributeIndex index, const LayerCombination& combination);
 

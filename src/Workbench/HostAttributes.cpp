@@ -170,6 +170,21 @@ ErrorCode CreateLineType(const LineType& lineType, AttributeIndex& index) {
     return AddAttribute(CurrentSession().project.lineTypes, lineType, index);
 }
 
+ErrorCode ChangeLineType(AttributeIndex index, const LineType& lineType) {
+    if (const ErrorCode code = Workbench::CountStructureCall("ChangeLineType")) {
+        return code;
+    }
+    auto& lineTypes = CurrentSession().project.lineTypes;
+    if (const ErrorCode code = CheckChange(lineTypes, index, lineType)) {
+        return code;
+    }
+    if (const ErrorCode code = Workbench::CheckLineType(lineType)) {
+        return code;
+    }
+    StoreAttribute(lineTypes, index, lineType);
+    return NoError;
+}
+
 ErrorCode GetFill(AttributeIndex index, Fill& fill) {
     return GiveAttribute("GetFill", CurrentSession().project.fills, index, fill);
 }
@@ -221,6 +236,7 @@ ErrorCode ChangeLayerCombination(AttributeIndex index, const LayerCombination& c
     if (const ErrorCode code = Workbench::CheckCombination(project, combination)) {
         return code;
     }
+    Workbench::RenameInViews(project, project.combinations.at(index.value).name, combination.name);
     StoreAttribute(project.combinations, index, combination);
     return NoError;
 }

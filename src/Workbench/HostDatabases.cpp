@@ -1,12 +1,10 @@
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <vector>
 
 #include "Host/Stories.hpp"
-#include "Text/Utf8.hpp"
 #include "Workbench/Project/ElementRules.hpp"
-#include "Workbench/Project/TextLimits.hpp"
+#include "Workbench/Project/WindowRules.hpp"
 #include "Workbench/Session.hpp"
 
 // Windows of the project and the databases behind them.
@@ -18,8 +16,6 @@ using Workbench::CurrentSession;
 using Workbench::ProjectDatabase;
 using Workbench::Session;
 
-constexpr double SmallestScale = 1.0;
-constexpr double LargestScale = 30'000.0;
 constexpr double WorksheetScale = 50.0;
 
 bool IsWholeProject(WindowType type) {
@@ -48,12 +44,6 @@ bool FindWindow(Session& session, const Window& wanted, Window& window) {
         window = database->window;
     }
     return database != nullptr;
-}
-
-bool IsWorksheetName(std::string_view name) {
-    return !name.empty() && Text::IsUtf8(name) &&
-           Workbench::CountUtf16(name) <= Workbench::LongestText &&
-           name.find('\0') == std::string_view::npos;
 }
 
 // Where the scale of the current database stands; null for the 3D window, which has none.
@@ -134,7 +124,8 @@ ErrorCode CreateWorksheet(std::string_view name, std::string_view reference, Win
     if (session.undo.open) {
         return RefusedCommand;
     }
-    if (!IsWorksheetName(name) || (!reference.empty() && !IsWorksheetName(reference))) {
+    if (!Workbench::IsWindowName(name) ||
+        (!reference.empty() && !Workbench::IsWindowName(reference))) {
         return BadParameters;
     }
     const auto& databases = session.project.databases;
@@ -177,7 +168,7 @@ ErrorCode ChangeDrawingScale(double scale) {
     if (!found) {
         return BadDatabase;
     }
-    if (!(scale >= SmallestScale && scale <= LargestScale)) {
+    if (!Workbench::IsScale(scale)) {
         return BadParameters;
     }
     session.projectChanged = session.projectChanged || *found != scale;

@@ -39,11 +39,14 @@ std::vector<std::string> NamesOf(const std::vector<UndoStep>& steps) {
 
 bool IsTaken(const Session& session, const Host::Guid& guid) {
     const auto& databases = session.project.databases;
+    const auto& views = session.project.views;
     return session.index.places.contains(guid) || session.index.parts.contains(guid) ||
            std::any_of(databases.begin(), databases.end(),
                        [&guid](const ProjectDatabase& database) {
                            return database.window.database == guid;
-                       });
+                       }) ||
+           std::any_of(views.begin(), views.end(),
+                       [&guid](const ProjectView& view) { return view.guid == guid; });
 }
 
 } // namespace

@@ -140,7 +140,7 @@ std::int32_t LibraryPlaceOf(std::int32_t index);
 /// session: what it shows is made then.
 bool HasContent(const Session& session, const Host::Window& database);
 
-/// A guid that no element, part or database of the open project has.
+/// A guid that no element, part, database or view of the open project has.
 Host::Guid FreshGuid();
 
 /// Makes the `nth` call of a port's function from now on (1 = the next one) fail with `code`. The

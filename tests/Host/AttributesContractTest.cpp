@@ -161,6 +161,37 @@ TEST_F(AttributesContract, CreatesLineTypesOfDashesAndGaps) {
     EXPECT_EQ(CreateLineType({"d", {0.0, 1.0}}, index), NoError); // dots
 }
 
+TEST_F(AttributesContract, ChangesALineTypeAndKeepsItsNumber) {
+    AttributeIndex index;
+    ASSERT_EQ(CreateLineType({"Prova - traço", {3.0, 1.5}}, index), NoError);
+    ASSERT_EQ(ChangeLineType(index, {"Prova - renomeado", {2.0, 1.0}}), NoError);
+    LineType read;
+    ASSERT_EQ(GetLineType(index, read), NoError);
+    EXPECT_EQ(read, (LineType{"Prova - renomeado", {2.0, 1.0}}));
+    AttributeIndex found;
+    EXPECT_EQ(FindAttribute(AttributeType::LineType, "Prova - traço", found), BadName);
+    ASSERT_EQ(FindAttribute(AttributeType::LineType, "Prova - renomeado", found), NoError);
+    EXPECT_EQ(found, index);
+}
+
+TEST_F(AttributesContract, RefusesAChangeOfALineTypeThatItCouldNotBeMadeWith) {
+    AttributeIndex other;
+    ASSERT_EQ(CreateLineType({"Prova - outro", {1.0, 1.0}}, other), NoError);
+    AttributeIndex index;
+    const LineType good{"Prova - traço", {3.0, 1.5}};
+    ASSERT_EQ(CreateLineType(good, index), NoError);
+    EXPECT_EQ(ChangeLineType(index, {"Prova - outro", {3.0, 1.5}}), NameInUse);
+    EXPECT_EQ(ChangeLineType(index, {"", {3.0, 1.5}}), BadParameters);
+    EXPECT_EQ(ChangeLineType(index, {std::string(256, 'a'), {3.0, 1.5}}), BadParameters);
+    EXPECT_EQ(ChangeLineType(index, {"a", {3.0}}), BadParameters);
+    EXPECT_EQ(ChangeLineType(index, {"a", {3.0, -1.0}}), BadParameters);
+    EXPECT_EQ(ChangeLineType({9999}, {"a", {3.0, 1.5}}), BadIndex);
+    LineType read;
+    ASSERT_EQ(GetLineType(index, read), NoError);
+    EXPECT_EQ(read, good);
+    EXPECT_EQ(ChangeLineType(index, good), NoError); // its own name
+}
+
 TEST_F(AttributesContract, CreatesSurfacesOfSharesUpToOne) {
     AttributeIndex index;
     ModelSurface surface{"Prova - vidro", {0.0, 1.0, 0.5}, 1.0, 0.0};

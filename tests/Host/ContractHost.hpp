@@ -19,7 +19,9 @@ namespace Merivane::Host {
 /// - on the free layer, in this order: a wall with a window and a door, a column of two segments,
 ///   and a line that the user has locked; a line on the hidden layer and one on the locked layer;
 /// - on story 0 a section, whose window was not in front yet, that shows the wall;
-/// - a worksheet of 1:20.
+/// - a worksheet of 1:20;
+/// - in the View Map a folder with a view of story 1 in it, of that layer combination and 1:50, and
+///   behind it a view of the worksheet.
 void OpenContractProject();
 
 inline constexpr const char* FreeLayer = "Prova - livre";
@@ -29,6 +31,9 @@ inline constexpr const char* LampPart = "Prova - luminária";
 inline constexpr const char* OtherLampPart = "Prova - outra luminária";
 inline constexpr const char* ObjectPart = "Prova - mesa";
 inline constexpr const char* WorksheetName = "Prova - folha";
+inline constexpr const char* CombinationName = "Prova - tudo";
+inline constexpr const char* ViewFolderName = "Prova - pasta";
+inline constexpr const char* PlanViewName = "Prova - vista";
 
 /// Closes the project.
 void CloseContractProject();

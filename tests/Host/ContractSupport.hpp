@@ -13,6 +13,7 @@
 #include "Host/Session.hpp"
 #include "Host/Storage.hpp"
 #include "Host/Stories.hpp"
+#include "Host/Views.hpp"
 
 /// Elements for the contract tests, made through the port alone.
 namespace Merivane::Host {

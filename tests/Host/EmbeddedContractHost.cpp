@@ -114,6 +114,25 @@ void AddDatabases(Project& project) {
     project.databases = {worksheet, section};
 }
 
+void AddViews(Project& project) {
+    Workbench::ProjectView folder;
+    folder.guid = NumberedGuid(40);
+    folder.name = ViewFolderName;
+    folder.isFolder = true;
+    Workbench::ProjectView plan;
+    plan.guid = NumberedGuid(41);
+    plan.name = PlanViewName;
+    plan.folder = folder.guid;
+    plan.floorIndex = 1;
+    plan.layerCombination = CombinationName;
+    plan.scale = 50.0;
+    Workbench::ProjectView worksheet;
+    worksheet.guid = NumberedGuid(42);
+    worksheet.name = WorksheetName;
+    worksheet.window = project.databases[0].window;
+    project.views = {folder, plan, worksheet};
+}
+
 Project MakeContractProject() {
     Project project = Workbench::MakeEmptyProject();
     project.stories = {{-1, -3.0, 3.0, "Subsolo"}, {0, 0.0, 3.0, "Térreo"}, {1, 3.0, 3.0, "1º"}};
@@ -121,7 +140,7 @@ Project MakeContractProject() {
     project.layers[3] = {HiddenLayerName, true, false};
     project.layers[4] = {LockedLayerName, false, true};
     project.layers[6] = {"Prova - depois da lacuna", false, false};
-    LayerCombination combination{"Prova - tudo", {}};
+    LayerCombination combination{CombinationName, {}};
     for (const auto& layer : project.layers) {
         combination.states.push_back({{layer.first}, false, false});
     }
@@ -131,6 +150,7 @@ Project MakeContractProject() {
     project.parts[2].parameters[1] = MakeParameter("mvName", ParameterType::Real);
     AddElements(project);
     AddDatabases(project);
+    AddViews(project);
     return project;
 }
 

@@ -181,10 +181,15 @@ TEST_F(UndoContract, RefusesStructureInsideAStep) {
     ASSERT_EQ(GetLayerCombination({1}, combination), NoError);
     AttributeIndex index;
     Window worksheet;
+    View view;
+    view.name = "Prova - nova";
+    std::vector<View> views;
+    ASSERT_EQ(ListViews(views), NoError);
     const ErrorCode code = CallUndoable("Prova", [&] {
         EXPECT_EQ(CreateLayer(layer, index), UndoScopeMisuse);
         EXPECT_EQ(ChangeLayer(LayerNamed(FreeLayer), layer), UndoScopeMisuse);
         EXPECT_EQ(CreateLineType(lineType, index), UndoScopeMisuse);
+        EXPECT_EQ(ChangeLineType({1}, lineType), UndoScopeMisuse);
         EXPECT_EQ(CreateSurface(surface, index), UndoScopeMisuse);
         EXPECT_EQ(CreateLayerCombination(combination, index), UndoScopeMisuse);
         EXPECT_EQ(ChangeLayerCombination({1}, combination), UndoScopeMisuse);
@@ -193,6 +198,8 @@ TEST_F(UndoContract, RefusesStructureInsideAStep) {
         EXPECT_EQ(ChangeDrawingScale(50.0), UndoScopeMisuse);
         EXPECT_EQ(ChangeWindow({}), UndoScopeMisuse);
         EXPECT_EQ(ChangeActiveFloor(1), UndoScopeMisuse);
+        EXPECT_EQ(CreateView(view), UndoScopeMisuse);
+        EXPECT_EQ(ChangeView(views.at(0)), UndoScopeMisuse);
         return NoError;
     });
     EXPECT_EQ(code, NothingToUndo);

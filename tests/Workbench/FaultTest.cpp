@@ -18,6 +18,7 @@
 #include "Host/Session.hpp"
 #include "Host/Storage.hpp"
 #include "Host/Stories.hpp"
+#include "Host/Views.hpp"
 #include "Support/Places.hpp"
 #include "Workbench/Project/ProjectFile.hpp"
 #include "Workbench/Session.hpp"
@@ -147,6 +148,10 @@ Calls AttributeCalls() {
          [] {
              return Host::CreateLineType({"Prova", {1.0, 1.0}}, index);
          }},
+        {"ChangeLineType",
+         [] {
+             return Host::ChangeLineType({1}, {"Prova", {1.0, 1.0}});
+         }},
         {"GetFill",
          [] {
              Host::Fill fill;
@@ -170,6 +175,9 @@ Calls AttributeCalls() {
 Calls WindowCalls() {
     static Host::Window window;
     static std::vector<Host::Window> windows;
+    static std::vector<Host::View> views;
+    static Host::View view;
+    view.name = "Prova";
     static double scale = 0.0;
     return {
         {"GetStories",
@@ -187,6 +195,9 @@ Calls WindowCalls() {
         {"CreateWorksheet", [] { return Host::CreateWorksheet("Prova", "P-01", window); }},
         {"GetDrawingScale", [] { return Host::GetDrawingScale(scale); }},
         {"ChangeDrawingScale", [] { return Host::ChangeDrawingScale(50.0); }},
+        {"ListViews", [] { return Host::ListViews(views); }},
+        {"CreateView", [] { return Host::CreateView(view); }},
+        {"ChangeView", [] { return Host::ChangeView(view); }},
     };
 }
 

@@ -59,4 +59,12 @@ void ShowInCombinations(Project& project, Host::AttributeIndex layer) {
     }
 }
 
+void RenameInViews(Project& project, std::string_view oldName, const std::string& newName) {
+    for (ProjectView& view : project.views) {
+        if (view.layerCombination == oldName) {
+            view.layerCombination = newName;
+        }
+    }
+}
+
 } // namespace Merivane::Workbench

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "Host/Attributes.hpp"
@@ -54,5 +55,8 @@ Host::ErrorCode CheckCombination(const Project& project, const Host::LayerCombin
 
 /// Gives a new layer its state in every combination: visible and unlocked.
 void ShowInCombinations(Project& project, Host::AttributeIndex layer);
+
+/// Takes a layer combination's new name over into the views that have it.
+void RenameInViews(Project& project, std::string_view oldName, const std::string& newName);
 
 } // namespace Merivane::Workbench

@@ -8,6 +8,7 @@
 #include "Text/ShownText.hpp"
 #include "Text/Utf8.hpp"
 #include "Workbench/Project/FileGroups.hpp"
+#include "Workbench/Project/WindowRules.hpp"
 
 namespace Merivane::Workbench {
 
@@ -15,9 +16,8 @@ namespace {
 
 using Host::WindowType;
 
-/// Scale denominators, as the host limits them.
-constexpr NumberRange Scales = {1.0, 30000.0};
-constexpr NumberRange ScalesOrNone = {0.0, 30000.0};
+constexpr NumberRange Scales = {SmallestScale, LargestScale};
+constexpr NumberRange ScalesOrNone = {0.0, LargestScale};
 constexpr NumberRange Floors = {-1000.0, 1000.0};
 
 bool IsMarker(const GuidHolder& holder) {
