@@ -13,8 +13,8 @@
 #include "Document/ResultTable.hpp"
 #include "Document/SceneBuild.hpp"
 #include "Document/SceneDocument.hpp"
-#include "Document/ZoneAnalysis.hpp"
 #include "Simulation/PolygonGeometry.hpp"
+#include "Simulation/Study/ZoneAnalysis.hpp"
 #include "Text/ShownText.hpp"
 
 using namespace Merivane;
@@ -35,9 +35,9 @@ bool LoadIes(const std::string& path, std::string& bytes) {
 
 /// Large rooms and arrays are as valid as small ones, but laying their points and explaining the
 /// glare of a million luminaires is not what is tried here.
-bool IsSmall(const Document::SceneDocument& document) {
+bool IsSmall(const Simulation::LightingStudy& document) {
     double nodes = 0.0;
-    for (const Document::DocumentZone& zone : document.zones) {
+    for (const Simulation::StudyZone& zone : document.zones) {
         const Simulation::Bounds2D bounds = Simulation::OuterBounds(zone.outline);
         nodes += Simulation::GridNodeCount(zone.outline, zone.grid);
         nodes += (bounds.maximum.x - bounds.minimum.x + zone.height) *
@@ -50,7 +50,7 @@ bool IsSmall(const Document::SceneDocument& document) {
     return nodes < 20000.0 && lights < 1000.0;
 }
 
-Simulation::SimulationResult DarkResult(const Document::BuiltScene& built) {
+Simulation::SimulationResult DarkResult(const Simulation::StudyScene& built) {
     Simulation::SimulationResult result;
     for (const Simulation::SensorPlane& plane : built.scene.sensorPlanes) {
         Simulation::ZoneResult zone{plane.name, {}, {}};
@@ -62,8 +62,8 @@ Simulation::SimulationResult DarkResult(const Document::BuiltScene& built) {
     return result;
 }
 
-void BuildAll(const Document::SceneDocument& document) {
-    Document::BuiltScene built;
+void BuildAll(const Simulation::LightingStudy& document) {
+    Simulation::StudyScene built;
     std::string error;
     if (!Document::BuildScene(document, built, error)) {
         Require(!error.empty() && Text::IsPlainText(error));
@@ -71,9 +71,9 @@ void BuildAll(const Document::SceneDocument& document) {
     }
     Require(built.planes.size() == built.scene.sensorPlanes.size());
     const Simulation::SimulationResult result = DarkResult(built);
-    std::vector<Document::ZoneAnalysis> analyses;
+    std::vector<Simulation::ZoneAnalysis> analyses;
     for (std::size_t zone = 0; zone < document.zones.size(); ++zone) {
-        analyses.push_back(Document::AnalyseZone(document, built, result, zone, true));
+        analyses.push_back(Simulation::AnalyseZone(document, built, result, zone, true));
     }
     Catalog::JsonValue json;
     Document::RunRecord run;
@@ -91,7 +91,7 @@ void BuildAll(const Document::SceneDocument& document) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    Document::SceneDocument document;
+    Simulation::LightingStudy document;
     std::string error;
     if (!Document::ParseSceneDocument(text, LoadIes, document, error)) {
         Require(!error.empty() && Text::IsPlainText(error));

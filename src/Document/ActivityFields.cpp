@@ -17,7 +17,7 @@ constexpr std::string_view ByName = "auto";
 
 } // namespace
 
-FieldReader IntoActivity(DocumentZone& zone) {
+FieldReader IntoActivity(Simulation::StudyZone& zone) {
     return [&zone](const Place& place, std::string& error) {
         std::string id;
         if (!Into(id)(place, error)) {
@@ -64,9 +64,9 @@ bool CheckActivity(const Place& zonePlace, std::string& error) {
     return true;
 }
 
-std::vector<std::string> ActivityWarnings(const std::vector<DocumentZone>& zones) {
+std::vector<std::string> ActivityWarnings(const std::vector<Simulation::StudyZone>& zones) {
     std::vector<std::string> warnings;
-    for (const DocumentZone& zone : zones) {
+    for (const Simulation::StudyZone& zone : zones) {
         if (zone.task.byName && zone.task.requirement.taskId.empty()) {
             warnings.push_back("A Zona \"" + zone.name +
                                "\" não é verificada: seu nome não sugere nenhuma atividade" +

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "Document/JsonParts.hpp"
+#include "Document/ZoneExplanation.hpp"
 #include "Document/ZoneResultJson.hpp"
 #include "Simulation/Glare/StandardRoom.hpp"
 
@@ -73,7 +74,7 @@ JsonValue ObserverJson(const Simulation::ObserverGlareRecord& record) {
     return json;
 }
 
-JsonValue ObserversJson(const ZoneAnalysis& analysis, const Simulation::Scene& scene,
+JsonValue ObserversJson(const Simulation::ZoneAnalysis& analysis, const Simulation::Scene& scene,
                         bool explained) {
     JsonValue list = JsonValue::MakeArray();
     for (const Simulation::ObserverGlareRecord& record : analysis.glare.observers) {
@@ -101,7 +102,8 @@ JsonValue ReflectancesJson(const ZoneGlare& glare) {
 
 } // namespace
 
-JsonValue GlareJson(const ZoneAnalysis& analysis, const Simulation::Scene& scene, bool explained) {
+JsonValue GlareJson(const Simulation::ZoneAnalysis& analysis, const Simulation::Scene& scene,
+                    bool explained) {
     const ZoneGlare& glare = analysis.glare;
     JsonValue models = JsonValue::MakeArray();
     for (const ModelGlare& model : glare.models) {

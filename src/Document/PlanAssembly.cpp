@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <limits>
 
-#include "Document/GlareSummary.hpp"
 #include "Document/PlanScene.hpp"
 #include "Simulation/PrintedValue.hpp"
+#include "Simulation/Study/GlareSummary.hpp"
 
 namespace Merivane::Document {
 
@@ -23,7 +23,7 @@ struct Floor {
     std::vector<std::size_t> zones;
 };
 
-std::vector<Floor> GroupFloors(const SceneDocument& document) {
+std::vector<Floor> GroupFloors(const Simulation::LightingStudy& document) {
     std::vector<std::size_t> order(document.zones.size());
     for (std::size_t i = 0; i < order.size(); ++i) {
         order[i] = i;
@@ -33,7 +33,7 @@ std::vector<Floor> GroupFloors(const SceneDocument& document) {
     });
     std::vector<Floor> floors;
     for (const std::size_t index : order) {
-        const DocumentZone& zone = document.zones[index];
+        const Simulation::StudyZone& zone = document.zones[index];
         if (floors.empty() || zone.floorLevel > floors.back().level + SameLevel) {
             floors.push_back({zone.floorLevel, zone.floorLevel, zone.height, {}});
         }
@@ -62,18 +62,19 @@ double LuminaireLimit(const std::vector<Floor>& floors, const Floor& floor) {
 
 /// Everything that the plans are made of.
 struct PlanSources {
-    const SceneDocument& document;
-    const BuiltScene& built;
+    const Simulation::LightingStudy& document;
+    const Simulation::StudyScene& built;
     const Simulation::SimulationResult& result;
-    const std::vector<ZoneAnalysis>& analyses;
+    const std::vector<Simulation::ZoneAnalysis>& analyses;
 };
 
-PlanVerdict AssembleVerdict(const ZoneAnalysis& analysis, Simulation::ReferenceStandard standard) {
+PlanVerdict AssembleVerdict(const Simulation::ZoneAnalysis& analysis,
+                            Simulation::ReferenceStandard standard) {
     PlanVerdict verdict;
     verdict.activity = analysis.task != nullptr ? analysis.task->activity : "";
     verdict.standard = Simulation::ReferenceStandardName(standard);
     verdict.rows = analysis.verification.rows;
-    verdict.notes = GlareSummary(analysis);
+    verdict.notes = Simulation::GlareSummary(analysis);
     for (const std::string& warning : analysis.glare.warnings) {
         verdict.notes.push_back("Atenção (UGR): " + warning);
     }
@@ -85,14 +86,15 @@ PlanVerdict AssembleVerdict(const ZoneAnalysis& analysis, Simulation::ReferenceS
 
 PlanZone AssembleZone(const PlanSources& sources, std::size_t zoneIndex) {
     const auto& [document, built, result, analyses] = sources;
-    const DocumentZone& zone = document.zones[zoneIndex];
+    const Simulation::StudyZone& zone = document.zones[zoneIndex];
     PlanZone plan;
     plan.name = zone.name;
     plan.polygon = zone.outline;
     plan.workPlaneHeight = zone.grid.workPlaneHeight;
     plan.borderBand = zone.grid.borderBand;
     for (std::size_t i = 0; i < built.planes.size() && i < result.zones.size(); ++i) {
-        if (built.planes[i].zone == zoneIndex && built.planes[i].kind == PlaneKind::WorkPlane) {
+        if (built.planes[i].zone == zoneIndex &&
+            built.planes[i].kind == Simulation::PlaneKind::WorkPlane) {
             plan.grid = built.scene.sensorPlanes[i].grid;
             plan.values = result.zones[i].illuminance;
             plan.statistics = result.zones[i].statistics;
@@ -132,9 +134,10 @@ PlanContents AssembleFloor(const PlanSources& sources, const Floor& floor, doubl
 
 } // namespace
 
-std::vector<FloorPlan> AssemblePlans(const SceneDocument& document, const BuiltScene& built,
+std::vector<FloorPlan> AssemblePlans(const Simulation::LightingStudy& document,
+                                     const Simulation::StudyScene& built,
                                      const Simulation::SimulationResult& result,
-                                     const std::vector<ZoneAnalysis>& analyses,
+                                     const std::vector<Simulation::ZoneAnalysis>& analyses,
                                      const std::vector<std::string>& notes) {
     const PlanSources sources{document, built, result, analyses};
     const std::vector<Floor> floors = GroupFloors(document);

@@ -5,8 +5,8 @@
 
 #include "Document/ResultPlan.hpp"
 #include "Document/SceneBuild.hpp"
-#include "Document/ZoneAnalysis.hpp"
 #include "Simulation/SimulationRecords.hpp"
+#include "Simulation/Study/ZoneAnalysis.hpp"
 
 namespace Merivane::Document {
 
@@ -24,9 +24,10 @@ struct FloorPlan {
 ///
 /// Without Zones there is no plan. `result` must be that of `built.scene`, `analyses` those of the
 /// document's Zones, in order.
-std::vector<FloorPlan> AssemblePlans(const SceneDocument& document, const BuiltScene& built,
+std::vector<FloorPlan> AssemblePlans(const Simulation::LightingStudy& document,
+                                     const Simulation::StudyScene& built,
                                      const Simulation::SimulationResult& result,
-                                     const std::vector<ZoneAnalysis>& analyses,
+                                     const std::vector<Simulation::ZoneAnalysis>& analyses,
                                      const std::vector<std::string>& notes);
 
 } // namespace Merivane::Document

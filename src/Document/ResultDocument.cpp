@@ -86,14 +86,14 @@ JsonValue GridJson(const Simulation::SensorPlane& plane) {
     return json;
 }
 
-JsonValue PlaneJson(const SceneDocument& document, const PlaneRole& role,
+JsonValue PlaneJson(const Simulation::LightingStudy& document, const Simulation::PlaneRole& role,
                     const Simulation::SensorPlane& plane, const Simulation::ZoneResult& result) {
     JsonValue json;
     json.Set("nome", JsonValue::MakeString(plane.name));
     json.Set("zona", JsonValue::MakeString(document.zones[role.zone].name));
     json.Set("indiceDaZona", Integer(static_cast<std::int64_t>(role.zone)));
-    json.Set("tipo", JsonValue::MakeString(PlaneKindName(role.kind)));
-    if (role.kind == PlaneKind::Wall) {
+    json.Set("tipo", JsonValue::MakeString(Simulation::PlaneKindName(role.kind)));
+    if (role.kind == Simulation::PlaneKind::Wall) {
         json.Set("parede", Integer(role.wall));
     }
     json.Set("estatisticas", StatisticsJson(result.statistics));
@@ -102,7 +102,7 @@ JsonValue PlaneJson(const SceneDocument& document, const PlaneRole& role,
     return json;
 }
 
-JsonValue PlanesJson(const SceneDocument& document, const BuiltScene& built,
+JsonValue PlanesJson(const Simulation::LightingStudy& document, const Simulation::StudyScene& built,
                      const Simulation::SimulationResult& result) {
     JsonValue list = JsonValue::MakeArray();
     for (std::size_t i = 0; i < result.zones.size() && i < built.planes.size(); ++i) {
@@ -112,7 +112,8 @@ JsonValue PlanesJson(const SceneDocument& document, const BuiltScene& built,
     return list;
 }
 
-JsonValue PointsJson(const BuiltScene& built, const Simulation::SimulationResult& result) {
+JsonValue PointsJson(const Simulation::StudyScene& built,
+                     const Simulation::SimulationResult& result) {
     JsonValue list = JsonValue::MakeArray();
     for (std::size_t i = 0; i < built.pointCount && i < result.pointIlluminance.size() &&
                             i < result.pointDirectIlluminance.size();
@@ -128,8 +129,8 @@ JsonValue PointsJson(const BuiltScene& built, const Simulation::SimulationResult
     return list;
 }
 
-JsonValue ZonesJson(const SceneDocument& document, const BuiltScene& built,
-                    const std::vector<ZoneAnalysis>& analyses, bool explained) {
+JsonValue ZonesJson(const Simulation::LightingStudy& document, const Simulation::StudyScene& built,
+                    const std::vector<Simulation::ZoneAnalysis>& analyses, bool explained) {
     JsonValue list = JsonValue::MakeArray();
     for (std::size_t i = 0; i < analyses.size() && i < document.zones.size(); ++i) {
         list.items.push_back(
@@ -140,9 +141,11 @@ JsonValue ZonesJson(const SceneDocument& document, const BuiltScene& built,
 
 } // namespace
 
-std::string WriteResultDocument(const SceneDocument& document, const BuiltScene& built,
+std::string WriteResultDocument(const Simulation::LightingStudy& document,
+                                const Simulation::StudyScene& built,
                                 const Simulation::SimulationResult& result,
-                                const std::vector<ZoneAnalysis>& analyses, const RunRecord& run) {
+                                const std::vector<Simulation::ZoneAnalysis>& analyses,
+                                const RunRecord& run) {
     JsonValue json;
     json.Set("formato", Integer(ResultFormat));
     json.Set("nome", JsonValue::MakeString(document.name));

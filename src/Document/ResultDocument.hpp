@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "Document/SceneBuild.hpp"
-#include "Document/ZoneAnalysis.hpp"
 #include "Simulation/SimulationRecords.hpp"
+#include "Simulation/Study/ZoneAnalysis.hpp"
 
 namespace Merivane::Document {
 
@@ -22,8 +22,10 @@ struct RunRecord {
 /// docs/cena.md: what each Zone's values mean, every plane with its grid, the values of its points
 /// [lux] and the statistics of its task area, then the loose points of the document. `result` must
 /// be that of `built.scene`, `analyses` those of the document's Zones, in order.
-std::string WriteResultDocument(const SceneDocument& document, const BuiltScene& built,
+std::string WriteResultDocument(const Simulation::LightingStudy& document,
+                                const Simulation::StudyScene& built,
                                 const Simulation::SimulationResult& result,
-                                const std::vector<ZoneAnalysis>& analyses, const RunRecord& run);
+                                const std::vector<Simulation::ZoneAnalysis>& analyses,
+                                const RunRecord& run);
 
 } // namespace Merivane::Document

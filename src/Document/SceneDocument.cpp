@@ -42,7 +42,7 @@ bool CheckFormat(const Place& root, std::string& error) {
 
 /// The document that is being filled and what its parts ask of each other.
 struct SceneReading {
-    SceneDocument& document;
+    Simulation::LightingStudy& document;
     IesLibrary library;
     MaterialNames names;
 };
@@ -83,7 +83,7 @@ bool ReadObservers(const Place& place, SceneReading& reading, std::string& error
 }
 
 bool ReadRoot(const Place& root, SceneReading& reading, std::string& error) {
-    SceneDocument& document = reading.document;
+    Simulation::LightingStudy& document = reading.document;
     const auto part = [&reading](auto reader) -> FieldReader {
         return [&reading, reader](const Place& place, std::string& text) {
             return reader(place, reading, text);
@@ -119,8 +119,8 @@ std::wstring FolderOf(const std::wstring& path) {
 
 } // namespace
 
-bool ParseSceneDocument(std::string_view text, const IesLoader& loadIes, SceneDocument& document,
-                        std::string& error) {
+bool ParseSceneDocument(std::string_view text, const IesLoader& loadIes,
+                        Simulation::LightingStudy& document, std::string& error) {
     document = {};
     document.engine = Simulation::ProfileSettings(1);
     document.levels = Simulation::DefaultLevels();
@@ -152,7 +152,8 @@ bool ParseSceneDocument(std::string_view text, const IesLoader& loadIes, SceneDo
     return true;
 }
 
-bool ReadSceneDocument(const std::wstring& path, SceneDocument& document, std::string& error) {
+bool ReadSceneDocument(const std::wstring& path, Simulation::LightingStudy& document,
+                       std::string& error) {
     std::string text;
     const std::string quoted = "\"" + Text::Narrow(path) + "\"";
     if (!Text::ReadFileBytes(path, text)) {

@@ -39,18 +39,18 @@ bool ReadSurface(const Place& place, const MaterialNames& names, Simulation::Sce
 bool ReadLuminaire(const Place& place, IesLibrary& library, Simulation::SceneLuminaire& luminaire,
                    std::string& error);
 
-bool ReadZone(const Place& place, DocumentZone& zone, std::string& error);
+bool ReadZone(const Place& place, Simulation::StudyZone& zone, std::string& error);
 
 /// The readers of what a Zone is verified against, each for its key. The activity's is to stand
 /// behind that of the Zone's name and before those of its own values.
-FieldReader IntoActivity(DocumentZone& zone);
+FieldReader IntoActivity(Simulation::StudyZone& zone);
 FieldReader IntoScreens(std::int32_t& screens);
 
 /// Refuses values of a Zone's own that no activity takes.
 bool CheckActivity(const Place& zonePlace, std::string& error);
 
 /// A sentence for each Zone whose name was to suggest an activity and does not.
-std::vector<std::string> ActivityWarnings(const std::vector<DocumentZone>& zones);
+std::vector<std::string> ActivityWarnings(const std::vector<Simulation::StudyZone>& zones);
 
 bool ReadStandard(const Place& place, Simulation::ReferenceStandard& standard, std::string& error);
 

@@ -65,7 +65,7 @@ bool CheckOutline(const Place& place, const Simulation::Polygon2D& outline, std:
     return RefuseOutline(place, JudgeOutline(outline), error);
 }
 
-bool CheckHeights(const Place& place, const DocumentZone& zone, std::string& error) {
+bool CheckHeights(const Place& place, const Simulation::StudyZone& zone, std::string& error) {
     if (zone.grid.workPlaneHeight < zone.height) {
         return true;
     }
@@ -87,7 +87,7 @@ bool CheckSpacing(const Place& place, double spacing, std::string& error) {
 
 } // namespace
 
-bool ReadZone(const Place& place, DocumentZone& zone, std::string& error) {
+bool ReadZone(const Place& place, Simulation::StudyZone& zone, std::string& error) {
     const FieldReader readOutline = [&zone](const Place& item, std::string& text) {
         return ReadRing(item, zone.outline.outer, text);
     };

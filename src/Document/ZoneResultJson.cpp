@@ -9,7 +9,7 @@ namespace {
 
 using Catalog::JsonValue;
 
-JsonValue ActivityJson(const DocumentZone& zone, const Simulation::TaskRow& task) {
+JsonValue ActivityJson(const Simulation::StudyZone& zone, const Simulation::TaskRow& task) {
     JsonValue json;
     json.Set("id", JsonValue::MakeString(task.id));
     json.Set("secao", Integer(task.section));
@@ -30,7 +30,7 @@ std::string ScreensText(std::int32_t screens) {
     }
 }
 
-JsonValue RequirementJson(const DocumentZone& zone, const Simulation::TaskRow& task) {
+JsonValue RequirementJson(const Simulation::StudyZone& zone, const Simulation::TaskRow& task) {
     const Simulation::ZoneRequirement& requirement = zone.task.requirement;
     const std::int32_t screens = Simulation::ResolveScreens(requirement);
     const double luminance = Simulation::ScreenLuminanceLimit(screens);
@@ -63,8 +63,8 @@ JsonValue RowsJson(const std::vector<Simulation::VerificationRow>& rows) {
     return list;
 }
 
-JsonValue VerificationJson(const ZoneAnalysis& analysis) {
-    const std::string state = OverallState(analysis);
+JsonValue VerificationJson(const Simulation::ZoneAnalysis& analysis) {
+    const std::string state = Simulation::OverallState(analysis);
     JsonValue json;
     json.Set("linhas", RowsJson(analysis.verification.rows));
     json.Set("resultado", state.empty() ? JsonValue() : JsonValue::MakeString(state));
@@ -74,8 +74,9 @@ JsonValue VerificationJson(const ZoneAnalysis& analysis) {
 
 } // namespace
 
-JsonValue ZoneResultJson(const DocumentZone& zone, const ZoneAnalysis& analysis,
-                         const Simulation::Scene& scene, bool explained) {
+JsonValue ZoneResultJson(const Simulation::StudyZone& zone,
+                         const Simulation::ZoneAnalysis& analysis, const Simulation::Scene& scene,
+                         bool explained) {
     const Simulation::TaskRow* task = analysis.task;
     JsonValue json;
     json.Set("nome", JsonValue::MakeString(zone.name));

@@ -68,7 +68,7 @@ Document::PlanStyle PlanStyleOf(const SimulateArguments& arguments) {
     return style;
 }
 
-void BuildTables(const Document::BuiltScene& built, const Simulation::SimulationResult& result,
+void BuildTables(const Simulation::StudyScene& built, const Simulation::SimulationResult& result,
                  const std::string& explanation, std::vector<OutputFile>& files) {
     std::vector<std::string> titles;
     for (const Simulation::SensorPlane& plane : built.scene.sensorPlanes) {
@@ -102,7 +102,7 @@ bool BuildPlans(const std::vector<Document::FloorPlan>& plans, const Document::P
     return true;
 }
 
-void TellValues(const Document::BuiltScene& built, const Simulation::SimulationResult& result) {
+void TellValues(const Simulation::StudyScene& built, const Simulation::SimulationResult& result) {
     TellPlanes(result.zones);
     TellLoosePoints(result, built.pointCount);
 }

@@ -17,7 +17,7 @@ Document::PlanStyle PlanStyleOf(const SimulateArguments& arguments);
 
 /// Adds a table of values (CSV) for each plane of the scene, and the one that explains the
 /// observers' glare where there is one.
-void BuildTables(const Document::BuiltScene& built, const Simulation::SimulationResult& result,
+void BuildTables(const Simulation::StudyScene& built, const Simulation::SimulationResult& result,
                  const std::string& explanation, std::vector<OutputFile>& files);
 
 /// Adds each plan as SVG, PDF and PNG. Returns false with one Portuguese sentence when a plan
@@ -26,7 +26,7 @@ bool BuildPlans(const std::vector<Document::FloorPlan>& plans, const Document::P
                 std::vector<OutputFile>& files, std::string& error);
 
 /// Writes a row of statistics for each plane and the document's loose points to standard output.
-void TellValues(const Document::BuiltScene& built, const Simulation::SimulationResult& result);
+void TellValues(const Simulation::StudyScene& built, const Simulation::SimulationResult& result);
 
 /// Writes what stands last to standard output: notices, time, and the pictures to open in `folder`.
 void TellClosing(const Document::RunRecord& record, const std::vector<std::string>& notices,

@@ -9,7 +9,7 @@
 #include "Document/ResultDocument.hpp"
 #include "Document/SceneBuild.hpp"
 #include "Document/SceneDocument.hpp"
-#include "Document/ZoneAnalysis.hpp"
+#include "Document/ZoneExplanation.hpp"
 #include "Program/Commands.hpp"
 #include "Program/Interrupt.hpp"
 #include "Program/Message.hpp"
@@ -24,6 +24,7 @@
 #include "Simulation/Run/ReflectionEstimate.hpp"
 #include "Simulation/Run/RunSimulation.hpp"
 #include "Simulation/Run/SelfTest.hpp"
+#include "Simulation/Study/ZoneAnalysis.hpp"
 #include "Text/Utf8.hpp"
 
 namespace Merivane::Program {
@@ -33,13 +34,13 @@ namespace {
 /// All that one call of the command knows, filled step by step.
 struct SimulateRun {
     const SimulateArguments& arguments;
-    Document::SceneDocument document;
-    Document::BuiltScene built;
+    Simulation::LightingStudy document;
+    Simulation::StudyScene built;
     Radiance::Installation installation;
     WorkFolder workFolder;
     Simulation::SimulationOptions options;
     Simulation::SimulationResult result;
-    std::vector<Document::ZoneAnalysis> analyses; ///< of the document's Zones, in order
+    std::vector<Simulation::ZoneAnalysis> analyses; ///< of the document's Zones, in order
     Document::RunRecord record;
 };
 
@@ -158,8 +159,8 @@ bool Analyse(SimulateRun& run) {
         if (Interrupted()) {
             return false;
         }
-        run.analyses.push_back(Document::AnalyseZone(run.document, run.built, run.result, zone,
-                                                     run.arguments.explain));
+        run.analyses.push_back(Simulation::AnalyseZone(run.document, run.built, run.result, zone,
+                                                       run.arguments.explain));
     }
     return true;
 }

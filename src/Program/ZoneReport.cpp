@@ -4,17 +4,18 @@
 #include <array>
 #include <cstddef>
 
-#include "Document/GlareSummary.hpp"
 #include "Document/TextColumns.hpp"
+#include "Document/ZoneExplanation.hpp"
 #include "Program/Message.hpp"
+#include "Simulation/Study/GlareSummary.hpp"
 
 namespace Merivane::Program {
 
 namespace {
 
-using Document::ZoneAnalysis;
 using Simulation::VerificationKind;
 using Simulation::VerificationRow;
+using Simulation::ZoneAnalysis;
 
 using Cells = std::array<std::string, 4>;
 using Widths = std::array<std::size_t, 4>;
@@ -32,10 +33,10 @@ void Widen(Widths& widths, const Cells& cells) {
 }
 
 /// The columns of all Zones stand below each other.
-Widths ColumnWidths(const std::vector<ZoneAnalysis>& analyses) {
+Widths ColumnWidths(const std::vector<Simulation::ZoneAnalysis>& analyses) {
     Widths widths{};
     Widen(widths, Head);
-    for (const ZoneAnalysis& analysis : analyses) {
+    for (const Simulation::ZoneAnalysis& analysis : analyses) {
         for (const VerificationRow& row : analysis.verification.rows) {
             Widen(widths, CellsOf(row));
         }
@@ -63,22 +64,22 @@ bool Holds(const std::vector<VerificationRow>& rows, VerificationKind kind) {
                        [kind](const VerificationRow& row) { return row.kind == kind; });
 }
 
-std::string ActivityText(const Document::DocumentZone& zone, const Simulation::TaskRow& task) {
+std::string ActivityText(const Simulation::StudyZone& zone, const Simulation::TaskRow& task) {
     return task.activity + " (" + task.id + (zone.task.byName ? ", sugerida pelo nome)" : ")");
 }
 
-void TellVerification(const ZoneAnalysis& analysis, const Widths& widths) {
+void TellVerification(const Simulation::ZoneAnalysis& analysis, const Widths& widths) {
     const std::vector<VerificationRow>& rows = analysis.verification.rows;
     TellLine(TableLine(Head, widths));
     TellRows(rows, VerificationKind::Requirement, widths);
-    TellLine("  RESULTADO: " + Document::OverallState(analysis));
+    TellLine("  RESULTADO: " + Simulation::OverallState(analysis));
     if (Holds(rows, VerificationKind::Recommendation)) {
         TellLine("  Recomendações (não entram no resultado)");
         TellRows(rows, VerificationKind::Recommendation, widths);
     }
 }
 
-void TellZone(const Document::DocumentZone& zone, const ZoneAnalysis& analysis,
+void TellZone(const Simulation::StudyZone& zone, const Simulation::ZoneAnalysis& analysis,
               const Widths& widths) {
     TellLine("");
     if (analysis.task == nullptr) {
@@ -88,7 +89,7 @@ void TellZone(const Document::DocumentZone& zone, const ZoneAnalysis& analysis,
         TellLine(zone.name + "  —  " + ActivityText(zone, *analysis.task));
         TellVerification(analysis, widths);
     }
-    for (const std::string& line : Document::GlareSummary(analysis)) {
+    for (const std::string& line : Simulation::GlareSummary(analysis)) {
         TellLine("  " + line);
     }
     for (const std::string& note : analysis.verification.notes) {
@@ -98,7 +99,8 @@ void TellZone(const Document::DocumentZone& zone, const ZoneAnalysis& analysis,
 
 } // namespace
 
-void TellZones(const Document::SceneDocument& document, const std::vector<ZoneAnalysis>& analyses) {
+void TellZones(const Simulation::LightingStudy& document,
+               const std::vector<Simulation::ZoneAnalysis>& analyses) {
     if (analyses.empty()) {
         return;
     }
@@ -113,8 +115,9 @@ void TellZones(const Document::SceneDocument& document, const std::vector<ZoneAn
     TellLine("");
 }
 
-void TellExplanations(const Document::SceneDocument& document, const Document::BuiltScene& built,
-                      const std::vector<ZoneAnalysis>& analyses) {
+void TellExplanations(const Simulation::LightingStudy& document,
+                      const Simulation::StudyScene& built,
+                      const std::vector<Simulation::ZoneAnalysis>& analyses) {
     for (std::size_t i = 0; i < analyses.size(); ++i) {
         for (const std::string& line : Document::GlareExplanationLines(
                  Document::ExplainZone(document.zones[i].name, analyses[i], built.scene))) {
@@ -124,8 +127,8 @@ void TellExplanations(const Document::SceneDocument& document, const Document::B
     }
 }
 
-std::vector<std::string> AnalysisNotices(const Document::SceneDocument& document,
-                                         const std::vector<ZoneAnalysis>& analyses) {
+std::vector<std::string> AnalysisNotices(const Simulation::LightingStudy& document,
+                                         const std::vector<Simulation::ZoneAnalysis>& analyses) {
     std::vector<std::string> notices;
     for (std::size_t i = 0; i < analyses.size(); ++i) {
         for (const std::string& warning : analyses[i].glare.warnings) {
@@ -135,17 +138,18 @@ std::vector<std::string> AnalysisNotices(const Document::SceneDocument& document
     return notices;
 }
 
-bool AnyVerified(const std::vector<ZoneAnalysis>& analyses) {
-    return std::any_of(analyses.begin(), analyses.end(), [](const ZoneAnalysis& analysis) {
-        return !analysis.verification.rows.empty();
-    });
+bool AnyVerified(const std::vector<Simulation::ZoneAnalysis>& analyses) {
+    return std::any_of(analyses.begin(), analyses.end(),
+                       [](const Simulation::ZoneAnalysis& analysis) {
+                           return !analysis.verification.rows.empty();
+                       });
 }
 
-std::string FailingZones(const Document::SceneDocument& document,
-                         const std::vector<ZoneAnalysis>& analyses) {
+std::string FailingZones(const Simulation::LightingStudy& document,
+                         const std::vector<Simulation::ZoneAnalysis>& analyses) {
     std::string names;
     for (std::size_t i = 0; i < analyses.size(); ++i) {
-        if (!Document::MeetsRequirements(analyses[i])) {
+        if (!Simulation::MeetsRequirements(analyses[i])) {
             names += (names.empty() ? "\"" : ", \"") + document.zones[i].name + "\"";
         }
     }

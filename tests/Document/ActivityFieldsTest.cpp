@@ -19,7 +19,7 @@ std::string ZoneNamed(const std::string& name, const std::string& members) {
            (members.empty() ? "" : ", " + members) + "}]}";
 }
 
-ZoneTask TaskOf(const std::string& name, const std::string& members) {
+Simulation::StudyTask TaskOf(const std::string& name, const std::string& members) {
     return ReadScene(ZoneNamed(name, members)).zones[0].task;
 }
 
@@ -51,7 +51,8 @@ TEST(ActivityFields, TakeTheRequirementOfTheActivity) {
 }
 
 TEST(ActivityFields, SuggestTheActivityFromTheNameOfTheZone) {
-    const ZoneTask task = TaskOf("Sala de Reunião", R"("atividade": "auto", "em": 300)");
+    const Simulation::StudyTask task =
+        TaskOf("Sala de Reunião", R"("atividade": "auto", "em": 300)");
     EXPECT_EQ(task.requirement, (ZoneRequirement{"s22.5", 300.0, 0.7, -1}));
     EXPECT_TRUE(task.byName);
     EXPECT_EQ(ReadScene(ZoneNamed("Sala de Reunião", R"("atividade": "auto")")).warnings.size(),
@@ -59,7 +60,8 @@ TEST(ActivityFields, SuggestTheActivityFromTheNameOfTheZone) {
 }
 
 TEST(ActivityFields, SayThatANameSuggestsNothing) {
-    const SceneDocument document = ReadScene(ZoneNamed("Sala", R"("atividade": "auto")"));
+    const Simulation::LightingStudy document =
+        ReadScene(ZoneNamed("Sala", R"("atividade": "auto")"));
     EXPECT_EQ(document.zones[0].task.requirement.taskId, "");
     ASSERT_EQ(document.warnings.size(), 2U);
     EXPECT_EQ(document.warnings[0],
@@ -110,7 +112,7 @@ TEST(ActivityFields, ChooseTheEditionOfTheStandardForTheProject) {
 }
 
 TEST(ObserverFields, ReadEveryKey) {
-    const SceneDocument document = ReadScene(
+    const Simulation::LightingStudy document = ReadScene(
         SceneText(R"("observadores": [{"nome": "Mesa", "posicao": [1, 2, 1.2], "direcao": [3, -4]},
                                       {"posicao": [0, 0, -1], "direcao": [0, 1]}])"));
     ASSERT_EQ(document.observers.size(), 2U);

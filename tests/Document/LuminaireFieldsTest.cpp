@@ -20,12 +20,13 @@ std::string LuminaireText(const std::string& members) {
 const std::string Placed = R"("ies": "a.ies", "posicao": [1, 2, 3])";
 
 /// Reads a document with one luminaire whose file has these bytes.
-SceneDocument ReadWithIes(const std::string& bytes, const std::string& members = Placed) {
+Simulation::LightingStudy ReadWithIes(const std::string& bytes,
+                                      const std::string& members = Placed) {
     const IesLoader loader = [&bytes](const std::string&, std::string& text) {
         text = bytes;
         return true;
     };
-    SceneDocument document;
+    Simulation::LightingStudy document;
     std::string error;
     EXPECT_TRUE(ParseSceneDocument(LuminaireText(members), loader, document, error)) << error;
     return document;
@@ -34,7 +35,7 @@ SceneDocument ReadWithIes(const std::string& bytes, const std::string& members =
 } // namespace
 
 TEST(LuminaireFields, ReadsEveryKey) {
-    const SceneDocument document = ReadScene(LuminaireText(
+    const Simulation::LightingStudy document = ReadScene(LuminaireText(
         R"("nome": "L1", "ies": "pasta/a.ies", "posicao": [1, 2, 3], "rotacao": 90,
            "espelhada": true, "centro": [0.1, 0.2, -0.3], "rotacaoC0": 15, "inclinacao": 30,
            "direcaoDaInclinacao": 45, "dimerizacao": 0.5, "fatorDeManutencao": 0.9,
@@ -71,7 +72,7 @@ TEST(LuminaireFields, ReadsEveryKey) {
 }
 
 TEST(LuminaireFields, TakesTheDefaults) {
-    const SceneDocument document = ReadScene(LuminaireText(Placed));
+    const Simulation::LightingStudy document = ReadScene(LuminaireText(Placed));
     ASSERT_EQ(document.luminaires.size(), 1U);
     const SceneLuminaire& luminaire = document.luminaires[0];
     EXPECT_EQ(luminaire.dimming, 1.0);
@@ -117,13 +118,14 @@ TEST(LuminaireFields, TakesTheColourRenderingOfTheHeaderWhereTheDocumentGivesNon
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.header + c.members);
-        const SceneDocument document = ReadWithIes(Tests::UniformIes(c.header), c.members);
+        const Simulation::LightingStudy document =
+            ReadWithIes(Tests::UniformIes(c.header), c.members);
         EXPECT_EQ(document.luminaires[0].contract.colourRendering, c.colourRendering);
     }
 }
 
 TEST(LuminaireFields, HeaderTextsOfThePhotometryAreUtf8) {
-    const SceneDocument document =
+    const Simulation::LightingStudy document =
         ReadWithIes(Tests::UniformIes("[MANUFAC] S\xE3o\nfacho 10\xB0\n"));
     const Photometry::IesFile& file = document.luminaires[0].photometry;
     EXPECT_EQ(FindKeyword(file, "MANUFAC"), "São");
@@ -138,7 +140,7 @@ TEST(LuminaireFields, ReadsEachFileOnceAndTellsItsWarningsOnce) {
         return true;
     };
     const std::string one = "{" + Placed + "}";
-    SceneDocument document;
+    Simulation::LightingStudy document;
     std::string error;
     ASSERT_TRUE(ParseSceneDocument(SceneText("\"luminarias\": [" + one + ", " + one + "]"), loader,
                                    document, error))
@@ -151,7 +153,7 @@ TEST(LuminaireFields, ReadsEachFileOnceAndTellsItsWarningsOnce) {
 }
 
 TEST(LuminaireFields, TellsOfAnOpeningThatIsCalculatedAsAnother) {
-    const SceneDocument document = ReadWithIes(
+    const Simulation::LightingStudy document = ReadWithIes(
         "IESNA:LM-63-2002\nTILT=NONE\n1 1000 1 3 1 1 2 0 0 -0.05\n1 1 25\n0 90 180\n0\n1 1 1\n");
     ASSERT_EQ(document.warnings.size(), 1U);
     EXPECT_TRUE(document.warnings[0].starts_with("\"a.ies\": a abertura luminosa de 0 x 0 x -0,05"))

@@ -16,7 +16,7 @@ std::string MaterialText(const std::string& members) {
 }
 
 Simulation::SceneMaterial ReadMaterialText(const std::string& members) {
-    const SceneDocument document = ReadScene(MaterialText(members));
+    const Simulation::LightingStudy document = ReadScene(MaterialText(members));
     return document.materials.empty() ? Simulation::SceneMaterial() : document.materials[0];
 }
 
@@ -123,7 +123,7 @@ TEST(MaterialFields, RefusesTwoMaterialsOfOneName) {
 }
 
 TEST(SurfaceFields, ASurfaceNamesItsMaterial) {
-    const SceneDocument document = ReadScene(SurfaceText(
+    const Simulation::LightingStudy document = ReadScene(SurfaceText(
         R"("material": "B", "vertices": [[0, 0, 1], [1, 0, 1], [1, 1, 1]], "faceExterna": true)"));
     ASSERT_EQ(document.surfaces.size(), 1U);
     EXPECT_EQ(document.surfaces[0].materialIndex, 1);

@@ -9,8 +9,8 @@ namespace {
 
 /// The plans of a document whose values are all 100 lux.
 std::vector<FloorPlan> PlansOf(const std::string& text) {
-    const SceneDocument document = Tests::ReadScene(text);
-    BuiltScene built;
+    const Simulation::LightingStudy document = Tests::ReadScene(text);
+    Simulation::StudyScene built;
     std::string error;
     EXPECT_TRUE(BuildScene(document, built, error)) << error;
     Simulation::SimulationResult result;
@@ -20,9 +20,9 @@ std::vector<FloorPlan> PlansOf(const std::string& text) {
         zone.statistics = TaskStatistics(plane.grid, zone.illuminance);
         result.zones.push_back(zone);
     }
-    std::vector<ZoneAnalysis> analyses;
+    std::vector<Simulation::ZoneAnalysis> analyses;
     for (std::size_t zone = 0; zone < document.zones.size(); ++zone) {
-        analyses.push_back(AnalyseZone(document, built, result, zone, false));
+        analyses.push_back(Simulation::AnalyseZone(document, built, result, zone, false));
     }
     return AssemblePlans(document, built, result, analyses, {"nota"});
 }

@@ -14,10 +14,10 @@ namespace {
 /// A document of one small Zone with walls and a point, and made-up results: the i-th value of all
 /// is i + 0.5.
 struct MadeUp {
-    SceneDocument document;
-    BuiltScene built;
+    Simulation::LightingStudy document;
+    Simulation::StudyScene built;
     Simulation::SimulationResult result;
-    std::vector<ZoneAnalysis> analyses;
+    std::vector<Simulation::ZoneAnalysis> analyses;
     RunRecord run{"0.1.0", "RADIANCE 6.1a", 1.5, {"um aviso"}, false};
 };
 

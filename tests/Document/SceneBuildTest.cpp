@@ -13,15 +13,15 @@ using Tests::ZoneText;
 
 namespace {
 
-BuiltScene Build(const SceneDocument& document) {
-    BuiltScene built;
+Simulation::StudyScene Build(const Simulation::LightingStudy& document) {
+    Simulation::StudyScene built;
     std::string error;
     EXPECT_TRUE(BuildScene(document, built, error)) << error;
     return built;
 }
 
-std::string BuildError(const SceneDocument& document) {
-    BuiltScene built;
+std::string BuildError(const Simulation::LightingStudy& document) {
+    Simulation::StudyScene built;
     std::string error;
     return BuildScene(document, built, error) ? "" : error;
 }
@@ -29,7 +29,7 @@ std::string BuildError(const SceneDocument& document) {
 } // namespace
 
 TEST(SceneBuild, LaysTheWorkPlaneOfAZone) {
-    const BuiltScene built = Build(ReadScene(ZoneText(
+    const Simulation::StudyScene built = Build(ReadScene(ZoneText(
         R"("contorno": [[0, 0], [4, 0], [4, 3], [0, 3]], "altura": 3, "piso": 6,
            "espacamento": 0.5)")));
     ASSERT_EQ(built.scene.sensorPlanes.size(), 1U);
@@ -41,26 +41,29 @@ TEST(SceneBuild, LaysTheWorkPlaneOfAZone) {
     EXPECT_EQ(plane.grid.columns, 9);
     EXPECT_EQ(plane.grid.rows, 7);
     ASSERT_EQ(built.planes.size(), 1U);
-    EXPECT_EQ(built.planes[0].kind, PlaneKind::WorkPlane);
+    EXPECT_EQ(built.planes[0].kind, Simulation::PlaneKind::WorkPlane);
 }
 
 TEST(SceneBuild, AddsWallsCeilingAndFloorWhereTheyAreAskedFor) {
-    const BuiltScene built = Build(ReadScene(R"({"formato": 1, "zonas": [
+    const Simulation::StudyScene built = Build(ReadScene(R"({"formato": 1, "zonas": [
         {"nome": "A", "altura": 3, "contorno": [[0, 0], [4, 0], [4, 3], [0, 3]],
          "calcularParedes": true, "calcularTeto": true, "calcularPiso": true},
         {"nome": "B", "altura": 3, "contorno": [[5, 0], [9, 0], [9, 3]], "calcularTeto": true}]})"));
     struct Expected {
         std::string name;
         std::size_t zone;
-        PlaneKind kind;
+        Simulation::PlaneKind kind;
         int wall;
     };
-    const std::vector<Expected> expected = {
-        {"A", 0, PlaneKind::WorkPlane, 0},     {"A parede 1", 0, PlaneKind::Wall, 1},
-        {"A parede 2", 0, PlaneKind::Wall, 2}, {"A parede 3", 0, PlaneKind::Wall, 3},
-        {"A parede 4", 0, PlaneKind::Wall, 4}, {"A teto", 0, PlaneKind::Ceiling, 0},
-        {"A piso", 0, PlaneKind::Floor, 0},    {"B", 1, PlaneKind::WorkPlane, 0},
-        {"B teto", 1, PlaneKind::Ceiling, 0}};
+    const std::vector<Expected> expected = {{"A", 0, Simulation::PlaneKind::WorkPlane, 0},
+                                            {"A parede 1", 0, Simulation::PlaneKind::Wall, 1},
+                                            {"A parede 2", 0, Simulation::PlaneKind::Wall, 2},
+                                            {"A parede 3", 0, Simulation::PlaneKind::Wall, 3},
+                                            {"A parede 4", 0, Simulation::PlaneKind::Wall, 4},
+                                            {"A teto", 0, Simulation::PlaneKind::Ceiling, 0},
+                                            {"A piso", 0, Simulation::PlaneKind::Floor, 0},
+                                            {"B", 1, Simulation::PlaneKind::WorkPlane, 0},
+                                            {"B teto", 1, Simulation::PlaneKind::Ceiling, 0}};
     ASSERT_EQ(built.planes.size(), expected.size());
     ASSERT_EQ(built.scene.sensorPlanes.size(), expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i) {
@@ -79,7 +82,7 @@ TEST(SceneBuild, AddsWallsCeilingAndFloorWhereTheyAreAskedFor) {
 }
 
 TEST(SceneBuild, CarriesTheRestOfTheDocument) {
-    const BuiltScene built = Build(ReadScene(SceneText(
+    const Simulation::StudyScene built = Build(ReadScene(SceneText(
         R"("materiais": [{"nome": "M", "refletancia": 0.3}],
            "superficies": [{"material": "M", "vertices": [[0, 0, 0], [1, 0, 0], [0, 1, 0]]}],
            "luminarias": [{"ies": "a.ies", "posicao": [1, 1, 3]}],
@@ -94,12 +97,12 @@ TEST(SceneBuild, CarriesTheRestOfTheDocument) {
 }
 
 TEST(SceneBuild, AddsTheViewsOfTheObserversAtMidWallBehindThePoints) {
-    const BuiltScene built =
+    const Simulation::StudyScene built =
         Build(ReadScene(SceneText(R"("pontos": [{"posicao": [1, 1, 1]}])"))); // a square of 4 m
     ASSERT_EQ(built.scene.points.size(), 5U);
     ASSERT_EQ(built.observers.size(), 4U);
     for (std::size_t i = 0; i < 4; ++i) {
-        const SceneObserver& seen = built.observers[i];
+        const Simulation::StudyObserver& seen = built.observers[i];
         EXPECT_EQ(seen.zone, 0U);
         EXPECT_EQ(seen.point, i + 1);
         EXPECT_FALSE(seen.placed);
@@ -114,7 +117,7 @@ TEST(SceneBuild, AddsTheViewsOfTheObserversAtMidWallBehindThePoints) {
 }
 
 TEST(SceneBuild, GivesAPlacedObserverToEveryZoneThatHoldsIt) {
-    const BuiltScene built = Build(ReadScene(R"({"formato": 1, "zonas": [
+    const Simulation::StudyScene built = Build(ReadScene(R"({"formato": 1, "zonas": [
         {"nome": "A", "altura": 3, "contorno": [[0, 0], [4, 0], [4, 4], [0, 4]]},
         {"nome": "B", "altura": 3, "contorno": [[2, 0], [8, 0], [8, 4], [2, 4]]}],
         "observadores": [
@@ -126,8 +129,8 @@ TEST(SceneBuild, GivesAPlacedObserverToEveryZoneThatHoldsIt) {
         std::string label;
     };
     const Expected expected[] = {{0, "nas duas"}, {0, "só em A"}, {1, "só em B"}, {1, "nas duas"}};
-    std::vector<SceneObserver> placed;
-    for (const SceneObserver& seen : built.observers) {
+    std::vector<Simulation::StudyObserver> placed;
+    for (const Simulation::StudyObserver& seen : built.observers) {
         if (seen.placed) {
             placed.push_back(seen);
         }
@@ -155,7 +158,7 @@ TEST(SceneBuild, CountsTheObserversThatStandInNoZone) {
                           {"[2, 2, -0.01]", false}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.position);
-        const BuiltScene built = Build(ReadScene(SceneText(
+        const Simulation::StudyScene built = Build(ReadScene(SceneText(
             "\"observadores\": [{\"posicao\": " + c.position + ", \"direcao\": [1, 0]}]")));
         EXPECT_EQ(built.scene.points.size(), c.inside ? 5U : 4U);
         EXPECT_EQ(built.notices,
@@ -171,7 +174,7 @@ TEST(SceneBuild, TheExamplesOfTheProjectAreScenes) {
         SCOPED_TRACE(name);
         const std::filesystem::path file =
             Tests::SourceFolder() / "exemplos" / name / (name + ".json");
-        SceneDocument document;
+        Simulation::LightingStudy document;
         std::string error;
         ASSERT_TRUE(ReadSceneDocument(Text::Widen(file.string()), document, error)) << error;
         EXPECT_FALSE(Build(document).planes.empty());
@@ -179,7 +182,7 @@ TEST(SceneBuild, TheExamplesOfTheProjectAreScenes) {
 }
 
 TEST(SceneBuild, ANarrowZoneIsNotEmpty) {
-    const BuiltScene built = Build(
+    const Simulation::StudyScene built = Build(
         ReadScene(ZoneText(R"("contorno": [[0, 0], [4, 0], [4, 0.03], [0, 0.03]], "altura": 3)")));
     EXPECT_TRUE(built.scene.sensorPlanes[0].grid.narrow);
     EXPECT_GT(Simulation::ActiveNodeCount(built.scene.sensorPlanes[0].grid), 0U);

@@ -18,7 +18,7 @@ std::wstring Wide(const std::filesystem::path& path) {
 }
 
 std::string FileError(const std::filesystem::path& path) {
-    SceneDocument document;
+    Simulation::LightingStudy document;
     std::string error;
     return ReadSceneDocument(Wide(path), document, error) ? "" : error;
 }
@@ -26,12 +26,12 @@ std::string FileError(const std::filesystem::path& path) {
 } // namespace
 
 TEST(SceneDocument, ASmallDocumentTakesTheDefaults) {
-    const SceneDocument document = ReadScene(SceneText(""));
+    const Simulation::LightingStudy document = ReadScene(SceneText(""));
     EXPECT_EQ(document.name, "");
     EXPECT_EQ(document.engine, Simulation::ProfileSettings(1));
     EXPECT_EQ(document.levels, Simulation::DefaultLevels());
     ASSERT_EQ(document.zones.size(), 1U);
-    const DocumentZone& zone = document.zones[0];
+    const Simulation::StudyZone& zone = document.zones[0];
     EXPECT_EQ(zone.name, "Sala");
     EXPECT_EQ(zone.floorLevel, 0.0);
     EXPECT_EQ(zone.height, 3.0);
@@ -162,7 +162,7 @@ TEST(SceneDocument, SortsLevelsAndDropsRepeats) {
 }
 
 TEST(SceneDocument, ReadsLoosePointsWithDirectionsOfLengthOne) {
-    const SceneDocument document = ReadScene(
+    const Simulation::LightingStudy document = ReadScene(
         R"({"formato": 1, "pontos": [{"posicao": [1, 2, 3]},
             {"posicao": [0, 0, 0], "direcao": [3, 0, -4]}]})");
     ASSERT_EQ(document.points.size(), 2U);
@@ -195,7 +195,7 @@ TEST(SceneDocument, TheExampleOfItsPageIsADocument) {
     const std::size_t begin = page.find("```json\n");
     ASSERT_NE(begin, std::string::npos);
     const std::string text = page.substr(begin + 8, page.find("```", begin + 8) - begin - 8);
-    const SceneDocument document = ReadScene(text);
+    const Simulation::LightingStudy document = ReadScene(text);
     EXPECT_EQ(document.name, "Sala de leitura");
     EXPECT_EQ(document.materials.size(), 3U);
     EXPECT_EQ(document.surfaces.size(), 3U);
@@ -209,7 +209,7 @@ TEST(SceneDocument, FindsIesFilesFromTheFolderOfTheDocument) {
     const std::filesystem::path file = folder.Path() / "pasta à parte" / "cena.json";
     Tests::WriteBytes(file,
                       SceneText(R"("luminarias": [{"ies": "ies/a.ies", "posicao": [2, 2, 3]}])"));
-    SceneDocument document;
+    Simulation::LightingStudy document;
     std::string error;
     ASSERT_TRUE(ReadSceneDocument(Wide(file), document, error)) << error;
     EXPECT_EQ(document.luminaires[0].photometry.inputWatts, 25.0);

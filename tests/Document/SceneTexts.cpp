@@ -26,15 +26,15 @@ std::string ZoneText(const std::string& members) {
     return R"({"formato": 1, "zonas": [{"nome": "Sala", )" + members + "}]}";
 }
 
-Document::SceneDocument ReadScene(const std::string& text) {
-    Document::SceneDocument document;
+Simulation::LightingStudy ReadScene(const std::string& text) {
+    Simulation::LightingStudy document;
     std::string error;
     EXPECT_TRUE(Document::ParseSceneDocument(text, UniformLoader(), document, error)) << error;
     return document;
 }
 
 std::string SceneError(const std::string& text) {
-    Document::SceneDocument document;
+    Simulation::LightingStudy document;
     std::string error;
     return Document::ParseSceneDocument(text, UniformLoader(), document, error) ? "" : error;
 }

@@ -20,7 +20,7 @@ std::string SceneText(const std::string& members);
 std::string ZoneText(const std::string& members);
 
 /// Reads the text; the record where it is accepted, else a failed test.
-Document::SceneDocument ReadScene(const std::string& text);
+Simulation::LightingStudy ReadScene(const std::string& text);
 
 /// The refusal of the text; empty where it is accepted.
 std::string SceneError(const std::string& text);

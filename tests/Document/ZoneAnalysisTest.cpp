@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "Document/ZoneAnalysis.hpp"
+#include "Document/SceneBuild.hpp"
+#include "Document/ZoneExplanation.hpp"
 #include "SceneTexts.hpp"
+#include "Simulation/Study/ZoneAnalysis.hpp"
 
 namespace Merivane::Document {
 
@@ -10,8 +12,8 @@ namespace {
 constexpr double OfObservers = 80.0; // lux on their eyes, of which 30 are direct
 
 struct Calculated {
-    SceneDocument document;
-    BuiltScene built;
+    Simulation::LightingStudy document;
+    Simulation::StudyScene built;
     Simulation::SimulationResult result;
 };
 
@@ -32,8 +34,10 @@ Calculated Calculate(const std::string& text) {
     return calculated;
 }
 
-ZoneAnalysis Analyse(const Calculated& calculated, std::size_t zone = 0, bool explain = false) {
-    return AnalyseZone(calculated.document, calculated.built, calculated.result, zone, explain);
+Simulation::ZoneAnalysis Analyse(const Calculated& calculated, std::size_t zone = 0,
+                                 bool explain = false) {
+    return Simulation::AnalyseZone(calculated.document, calculated.built, calculated.result, zone,
+                                   explain);
 }
 
 /// A square room of 4 m with an office's luminaire of 0.1 x 0.2 m and these members of its Zone.
@@ -47,7 +51,7 @@ std::string Room(const std::string& zoneMembers, const std::string& members = ""
 
 const std::string Office = R"(, "atividade": "s22.2")";
 
-std::string StateOf(const ZoneAnalysis& analysis, const std::string& criterion) {
+std::string StateOf(const Simulation::ZoneAnalysis& analysis, const std::string& criterion) {
     for (const Simulation::VerificationRow& row : analysis.verification.rows) {
         if (row.criterion == criterion) {
             return Simulation::RowState(row);
@@ -60,7 +64,7 @@ std::string StateOf(const ZoneAnalysis& analysis, const std::string& criterion) 
 
 TEST(ZoneAnalysis, VerifiesAgainstTheActivityAndTheZonesOwnValues) {
     EXPECT_EQ(StateOf(Analyse(Calculate(Room(Office))), "Iluminância Em"), "NÃO ATENDE");
-    const ZoneAnalysis own = Analyse(Calculate(Room(Office + R"(, "em": 400)")));
+    const Simulation::ZoneAnalysis own = Analyse(Calculate(Room(Office + R"(, "em": 400)")));
     EXPECT_EQ(StateOf(own, "Iluminância Em"), "ATENDE");
     ASSERT_NE(own.task, nullptr);
     EXPECT_EQ(own.task->id, "s22.2");
@@ -68,7 +72,7 @@ TEST(ZoneAnalysis, VerifiesAgainstTheActivityAndTheZonesOwnValues) {
 }
 
 TEST(ZoneAnalysis, TakesTheLimitOfGlareFromTheActivity) {
-    const ZoneAnalysis analysis = Analyse(Calculate(Room(Office)));
+    const Simulation::ZoneAnalysis analysis = Analyse(Calculate(Room(Office)));
     EXPECT_TRUE(analysis.glare.hasUgr);
     EXPECT_EQ(analysis.verification.input.ugrLimit, 19);
     EXPECT_EQ(analysis.verification.input.ugr, analysis.glare.ugr);
@@ -76,16 +80,16 @@ TEST(ZoneAnalysis, TakesTheLimitOfGlareFromTheActivity) {
 }
 
 TEST(ZoneAnalysis, TellsTheOverallState) {
-    EXPECT_EQ(OverallState(Analyse(Calculate(Room("")))), "");
-    EXPECT_EQ(OverallState(Analyse(Calculate(Room(Office)))), "NÃO ATENDE");
+    EXPECT_EQ(Simulation::OverallState(Analyse(Calculate(Room("")))), "");
+    EXPECT_EQ(Simulation::OverallState(Analyse(Calculate(Room(Office)))), "NÃO ATENDE");
     const std::string easy = R"(, "atividade": "s1.3", "em": 300)";
-    EXPECT_EQ(OverallState(Analyse(Calculate(Room(easy)))), "ATENDE");
-    EXPECT_TRUE(MeetsRequirements(Analyse(Calculate(Room("")))));
-    EXPECT_FALSE(MeetsRequirements(Analyse(Calculate(Room(Office)))));
+    EXPECT_EQ(Simulation::OverallState(Analyse(Calculate(Room(easy)))), "ATENDE");
+    EXPECT_TRUE(Simulation::MeetsRequirements(Analyse(Calculate(Room("")))));
+    EXPECT_FALSE(Simulation::MeetsRequirements(Analyse(Calculate(Room(Office)))));
 }
 
 TEST(ZoneAnalysis, HasGlareWithoutActivityToo) {
-    const ZoneAnalysis analysis = Analyse(Calculate(Room("")));
+    const Simulation::ZoneAnalysis analysis = Analyse(Calculate(Room("")));
     EXPECT_EQ(analysis.task, nullptr);
     EXPECT_TRUE(analysis.verification.rows.empty());
     EXPECT_TRUE(analysis.glare.hasUgr);
@@ -113,7 +117,7 @@ TEST(ZoneAnalysis, GivesEachZoneItsOwnObserversAndValues) {
         "observadores": [{"nome": "O", "posicao": [6, 2, 1.2], "direcao": [1, 0]}]})");
     calculated.result.zones[1].statistics.mean = 123.0;
     EXPECT_TRUE(Analyse(calculated, 0).glare.observers.empty()); // no luminaire stands over it
-    const ZoneAnalysis second = Analyse(calculated, 1);
+    const Simulation::ZoneAnalysis second = Analyse(calculated, 1);
     ASSERT_EQ(second.glare.observers.size(), 5U);
     EXPECT_EQ(second.glare.observers[4].observer.observer.label, "O");
     EXPECT_EQ(second.statistics.mean, 123.0);
@@ -122,7 +126,7 @@ TEST(ZoneAnalysis, GivesEachZoneItsOwnObserversAndValues) {
 TEST(ZoneAnalysis, KeepsTheRowsOfObserversOnlyWhereTheyAreAskedFor) {
     const Calculated calculated = Calculate(Room(""));
     EXPECT_TRUE(Analyse(calculated).glare.observers[0].terms.empty());
-    const ZoneAnalysis explained = Analyse(calculated, 0, true);
+    const Simulation::ZoneAnalysis explained = Analyse(calculated, 0, true);
     const ExplainedRoom room = ExplainZone("Sala", explained, calculated.built.scene);
     EXPECT_EQ(room.title, "Ofuscamento na Zona \"Sala\", posições reais");
     ASSERT_EQ(room.lights.size(), 1U);

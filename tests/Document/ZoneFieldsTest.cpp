@@ -16,14 +16,14 @@ const std::string Square = R"("contorno": [[0, 0], [4, 0], [4, 4], [0, 4]], )";
 } // namespace
 
 TEST(ZoneFields, ReadsEveryKey) {
-    const SceneDocument document = ReadScene(ZoneText(
+    const Simulation::LightingStudy document = ReadScene(ZoneText(
         R"("contorno": [[0, 0], [9, 0], [9, 9], [0, 9]],
            "furos": [[[1, 1], [2, 1], [2, 2]], [[4, 4], [5, 4], [5, 5]]], "piso": -3.5,
            "altura": 2.8, "planoDeTrabalho": 0.8, "afastamento": 0.1, "faixa": 0.4,
            "espacamento": 0.25, "calcularParedes": true, "calcularTeto": true,
            "calcularPiso": true)"));
     ASSERT_EQ(document.zones.size(), 1U);
-    const DocumentZone& zone = document.zones[0];
+    const Simulation::StudyZone& zone = document.zones[0];
     EXPECT_EQ(zone.name, "Sala");
     EXPECT_EQ(zone.outline.outer, (std::vector<Point2D>{{0, 0}, {9, 0}, {9, 9}, {0, 9}}));
     ASSERT_EQ(zone.outline.holes.size(), 2U);
@@ -37,7 +37,7 @@ TEST(ZoneFields, ReadsEveryKey) {
 }
 
 TEST(ZoneFields, TakesAnOutlineThatRepeatsItsFirstPoint) {
-    const SceneDocument document =
+    const Simulation::LightingStudy document =
         ReadScene(ZoneText(R"("altura": 3, "contorno": [[0, 0], [4, 0], [4, 4], [0, 4], [0, 0]])"));
     ASSERT_EQ(document.zones.size(), 1U);
     EXPECT_EQ(document.zones[0].outline.outer.size(), 4U);

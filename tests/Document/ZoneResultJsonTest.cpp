@@ -17,16 +17,16 @@ Simulation::Scene OneLuminaire() {
     return scene;
 }
 
-DocumentZone VerifiedZone() {
-    DocumentZone zone;
+Simulation::StudyZone VerifiedZone() {
+    Simulation::StudyZone zone;
     zone.name = "Sala";
     zone.task = {{"s22.2", 450.0, 0.6, -1}, true};
     return zone;
 }
 
 /// One model with a value, one without; an observer who sees the one luminaire.
-ZoneAnalysis MakeUp() {
-    ZoneAnalysis analysis;
+Simulation::ZoneAnalysis MakeUp() {
+    Simulation::ZoneAnalysis analysis;
     analysis.task = Simulation::FindTask("s22.2");
     analysis.verification.rows = {
         {"Iluminância Em", "480 lx", "≥ 450 lx", true, true, VerificationKind::Requirement},
@@ -58,7 +58,7 @@ ZoneAnalysis MakeUp() {
     return analysis;
 }
 
-JsonValue Written(const ZoneAnalysis& analysis, bool explained = false) {
+JsonValue Written(const Simulation::ZoneAnalysis& analysis, bool explained = false) {
     return ZoneResultJson(VerifiedZone(), analysis, OneLuminaire(), explained);
 }
 
@@ -92,7 +92,7 @@ TEST(ZoneResultJson, TellsWhichScreensCount) {
     };
     for (const Case& c : {Case{0, "nenhuma", -1.0}, Case{1, "classes I e II", 1000.0},
                           Case{3, "classe III", 200.0}}) {
-        DocumentZone zone = VerifiedZone();
+        Simulation::StudyZone zone = VerifiedZone();
         zone.task.requirement.screens = c.screens;
         const JsonValue json = ZoneResultJson(zone, MakeUp(), OneLuminaire(), false);
         EXPECT_EQ(json.Find("exigido")->StringOr("telas", ""), c.text);
@@ -119,13 +119,13 @@ TEST(ZoneResultJson, TellsEveryRowAndTheResult) {
 }
 
 TEST(ZoneResultJson, TellsThatARequiredRowFails) {
-    ZoneAnalysis analysis = MakeUp();
+    Simulation::ZoneAnalysis analysis = MakeUp();
     analysis.verification.rows[0].passes = false;
     EXPECT_EQ(Written(analysis).Find("verificacao")->StringOr("resultado", ""), "NÃO ATENDE");
 }
 
 TEST(ZoneResultJson, HasNullWhereNothingIsVerified) {
-    ZoneAnalysis analysis = MakeUp();
+    Simulation::ZoneAnalysis analysis = MakeUp();
     analysis.task = nullptr;
     analysis.verification.rows.clear();
     const JsonValue json = Written(analysis);
@@ -185,7 +185,7 @@ TEST(ZoneResultJson, TellsEveryObserverAndItsRowsWhereTheyAreAskedFor) {
 }
 
 TEST(ZoneResultJson, HasNoUgrWithoutBackground) {
-    ZoneAnalysis analysis = MakeUp();
+    Simulation::ZoneAnalysis analysis = MakeUp();
     analysis.glare.observers[0].result.valid = false;
     analysis.glare.hasUgr = false;
     const JsonValue written = Written(analysis);

@@ -15,13 +15,13 @@
 namespace Merivane::Tests {
 namespace {
 
-using Document::SceneDocument;
+using Simulation::LightingStudy;
 using Simulation::Point2D;
 using Simulation::Point3D;
 using Simulation::SceneSurface;
 
-SceneDocument ReadScene(const std::string& name) {
-    SceneDocument document;
+Simulation::LightingStudy ReadScene(const std::string& name) {
+    Simulation::LightingStudy document;
     std::string error;
     const auto path = SourceFolder() / "exemplos" / name / (name + ".json");
     EXPECT_TRUE(Document::ReadSceneDocument(Text::WidePath(path), document, error)) << error;
@@ -29,8 +29,8 @@ SceneDocument ReadScene(const std::string& name) {
     return document;
 }
 
-Document::BuiltScene Built(const SceneDocument& document) {
-    Document::BuiltScene built;
+Simulation::StudyScene Built(const Simulation::LightingStudy& document) {
+    Simulation::StudyScene built;
     std::string error;
     EXPECT_TRUE(Document::BuildScene(document, built, error)) << error;
     return built;
@@ -47,7 +47,7 @@ double Area(const std::vector<Point2D>& ring) {
 }
 
 TEST(SampleScenes, TheRoomHasFourDownlights) {
-    const SceneDocument document = ReadScene("sala");
+    const Simulation::LightingStudy document = ReadScene("sala");
     EXPECT_EQ(document.luminaires.size(), 4U);
     ASSERT_EQ(document.zones.size(), 1U);
     EXPECT_DOUBLE_EQ(Area(document.zones[0].outline.outer), 24.0);
@@ -57,11 +57,11 @@ TEST(SampleScenes, TheRoomHasFourDownlights) {
 }
 
 TEST(SampleScenes, TheOfficeHasThreeZonesThreeTypesAndBothKindsOfGlass) {
-    const SceneDocument document = ReadScene("escritorio");
+    const Simulation::LightingStudy document = ReadScene("escritorio");
     ASSERT_EQ(document.zones.size(), 3U);
     EXPECT_EQ(document.zones[0].outline.holes.size(), 1U);
     double area = 0.0;
-    for (const Document::DocumentZone& zone : document.zones) {
+    for (const Simulation::StudyZone& zone : document.zones) {
         area += Area(zone.outline.outer);
     }
     EXPECT_NEAR(area, 120.0, 1e-9);
@@ -82,8 +82,8 @@ TEST(SampleScenes, TheOfficeHasThreeZonesThreeTypesAndBothKindsOfGlass) {
 }
 
 TEST(SampleScenes, TheCorridorCountsWhole) {
-    const SceneDocument document = ReadScene("corredor");
-    const Document::BuiltScene built = Built(document);
+    const Simulation::LightingStudy document = ReadScene("corredor");
+    const Simulation::StudyScene built = Built(document);
     ASSERT_EQ(built.scene.sensorPlanes.size(), 1U);
     const Simulation::CalculationGrid& grid = built.scene.sensorPlanes[0].grid;
     EXPECT_TRUE(grid.narrow);
@@ -103,7 +103,7 @@ TEST(SampleScenes, EveryZoneHasItsActivity) {
                           {"corredor", {"s1.3"}, true}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.scene);
-        const SceneDocument document = ReadScene(c.scene);
+        const Simulation::LightingStudy document = ReadScene(c.scene);
         ASSERT_EQ(document.zones.size(), c.activities.size());
         for (std::size_t i = 0; i < c.activities.size(); ++i) {
             EXPECT_EQ(document.zones[i].task.requirement.taskId, c.activities[i]);
@@ -121,7 +121,7 @@ TEST(SampleScenes, EveryLuminaireTellsItsColourRendering) {
 }
 
 TEST(SampleScenes, TheReaderOfTheRoomIsAnObserver) {
-    const Document::BuiltScene built = Built(ReadScene("sala"));
+    const Simulation::StudyScene built = Built(ReadScene("sala"));
     EXPECT_EQ(built.notices, std::vector<std::string>());
     EXPECT_EQ(built.observers.size(), 5U);
     EXPECT_TRUE(built.observers.back().placed);
@@ -174,7 +174,7 @@ bool Holds(const std::vector<Point3D>& polygon, const Point3D& normal, const Poi
 
 /// The nearest surface on a ray; null when it leaves the model. `facing` tells whether the surface
 /// looks towards the ray's start.
-const SceneSurface* FirstHit(const SceneDocument& document, const Point3D& start,
+const SceneSurface* FirstHit(const Simulation::LightingStudy& document, const Point3D& start,
                              const Point3D& direction, bool& facing) {
     const SceneSurface* nearest = nullptr;
     double shortest = 1e9;
@@ -202,10 +202,10 @@ TEST(SampleScenes, RoomsAreClosedAndTheirFacesLookIntoThem) {
     std::uniform_real_distribution<double> even(0.0, 1.0);
     for (const char* name : {"sala", "escritorio", "corredor"}) {
         SCOPED_TRACE(name);
-        const SceneDocument document = ReadScene(name);
-        const Document::BuiltScene built = Built(document);
+        const Simulation::LightingStudy document = ReadScene(name);
+        const Simulation::StudyScene built = Built(document);
         for (std::size_t plane = 0; plane < built.planes.size(); ++plane) {
-            if (built.planes[plane].kind != Document::PlaneKind::WorkPlane) {
+            if (built.planes[plane].kind != Simulation::PlaneKind::WorkPlane) {
                 continue;
             }
             const Simulation::CalculationGrid& grid = built.scene.sensorPlanes[plane].grid;

@@ -3,13 +3,13 @@
 #include <string>
 #include <vector>
 
-#include "Document/ZoneAnalysis.hpp"
+#include "Simulation/Study/ZoneAnalysis.hpp"
 
-namespace Merivane::Document {
+namespace Merivane::Simulation {
 
 /// What a reader of a Zone's results is told of its glare, as Portuguese lines of text: the value
 /// of the tabular method against the activity's limit and the case it was read in, or why there is
 /// none, the reference room, small sources, the observers of the real layout.
 std::vector<std::string> GlareSummary(const ZoneAnalysis& analysis);
 
-} // namespace Merivane::Document
+} // namespace Merivane::Simulation

@@ -1,23 +1,21 @@
 #include <gtest/gtest.h>
 
-#include "Document/SurfaceReference.hpp"
+#include "Simulation/Study/SurfaceReference.hpp"
 #include "Simulation/Verification/TaskSearch.hpp"
 
-namespace Merivane::Document {
+namespace Merivane::Simulation {
 namespace {
-
-using Simulation::VerificationRow;
 
 struct Plane {
     std::size_t zone;
     PlaneKind kind;
-    Simulation::PointStatistics statistics;
+    PointStatistics statistics;
 };
 
 std::vector<VerificationRow> RowsOf(const std::vector<Plane>& planes,
-                                    const Simulation::TaskRow* task = nullptr) {
-    BuiltScene built;
-    Simulation::SimulationResult result;
+                                    const TaskRow* task = nullptr) {
+    StudyScene built;
+    SimulationResult result;
     for (const Plane& plane : planes) {
         built.planes.push_back({plane.zone, plane.kind, 0});
         result.zones.push_back({"", {}, plane.statistics});
@@ -35,7 +33,7 @@ TEST(SurfaceRows, CompareCeilingAndWallsAsPrinted) {
                 {1, PlaneKind::Floor, {100, 9, 1, 9, 0.1}},
                 {1, PlaneKind::Ceiling, {50, 29.4, 2.7, 40, 0.094}}});
     ASSERT_EQ(rows.size(), 4U);
-    const auto recommendation = Simulation::VerificationKind::Recommendation;
+    const auto recommendation = VerificationKind::Recommendation;
     EXPECT_EQ(rows[0], (VerificationRow{"Teto", "29 lx", "≥ 30 lx", true, false, recommendation}));
     EXPECT_EQ(rows[1], (VerificationRow{"Teto U0", "0,09", "≥ 0,10", true, false, recommendation}));
     EXPECT_EQ(rows[2],
@@ -47,10 +45,10 @@ TEST(SurfaceRows, CompareCeilingAndWallsAsPrinted) {
 TEST(SurfaceRows, TakeTheReferenceOfTheSection) {
     const std::vector<Plane> planes = {{1, PlaneKind::Wall, {100, 60, 20, 70, 0.33}},
                                        {1, PlaneKind::Ceiling, {100, 60, 20, 70, 0.33}}};
-    const std::vector<VerificationRow> rows = RowsOf(planes, Simulation::FindTask("s22.2"));
+    const std::vector<VerificationRow> rows = RowsOf(planes, FindTask("s22.2"));
     EXPECT_EQ(rows[0].required, "≥ 50 lx");
     EXPECT_EQ(rows[2].required, "≥ 75 lx");
-    EXPECT_EQ(RowsOf(planes, Simulation::FindTask("s1.1"))[2].required, "≥ 50 lx");
+    EXPECT_EQ(RowsOf(planes, FindTask("s1.1"))[2].required, "≥ 50 lx");
 }
 
 TEST(SurfaceRows, AreThereOnlyForWhatWasCalculated) {
@@ -59,4 +57,4 @@ TEST(SurfaceRows, AreThereOnlyForWhatWasCalculated) {
 }
 
 } // namespace
-} // namespace Merivane::Document
+} // namespace Merivane::Simulation

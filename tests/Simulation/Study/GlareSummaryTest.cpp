@@ -1,13 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "Document/GlareSummary.hpp"
+#include "Simulation/Study/GlareSummary.hpp"
 
-namespace Merivane::Document {
+namespace Merivane::Simulation {
 namespace {
 
 using Lines = std::vector<std::string>;
-using Simulation::ModelGlare;
-using Simulation::TabularOmission;
 
 ModelGlare Model(const std::string& name, double ugr) {
     ModelGlare model;
@@ -32,9 +30,8 @@ ZoneAnalysis AnalysisOf(const std::vector<ModelGlare>& models) {
     return analysis;
 }
 
-Simulation::ObserverGlareRecord Seen(const std::string& label, bool placed, bool valid,
-                                     double ugr) {
-    Simulation::ObserverGlareRecord record;
+ObserverGlareRecord Seen(const std::string& label, bool placed, bool valid, double ugr) {
+    ObserverGlareRecord record;
     record.observer.observer.label = label;
     record.observer.placed = placed;
     record.result.valid = valid;
@@ -50,7 +47,7 @@ TEST(GlareSummary, TellsTheWorstModelAndHowItsTableWasRead) {
 }
 
 TEST(GlareSummary, TellsTheLimitOfTheActivity) {
-    Simulation::TaskRow task;
+    TaskRow task;
     ZoneAnalysis analysis = AnalysisOf({Model("Painel", 9.4)});
     analysis.task = &task;
     EXPECT_TRUE(GlareSummary(analysis)[0].starts_with(
@@ -102,4 +99,4 @@ TEST(GlareSummary, TellsTheObserversOfTheRealLayout) {
 }
 
 } // namespace
-} // namespace Merivane::Document
+} // namespace Merivane::Simulation

@@ -1,19 +1,15 @@
-#include "Document/GlareSummary.hpp"
+#include "Simulation/Study/GlareSummary.hpp"
 
 #include "Simulation/Glare/ObserverGlare.hpp"
 #include "Simulation/Glare/StandardRoom.hpp"
 #include "Simulation/Glare/ZoneGlareTexts.hpp"
 
-namespace Merivane::Document {
+namespace Merivane::Simulation {
 
 namespace {
 
-using Simulation::FormatUgr;
-using Simulation::ModelGlare;
-using Simulation::TabularOmission;
-
 /// The model whose value is the Zone's; null without one.
-const ModelGlare* WorstModel(const Simulation::ZoneGlare& glare) {
+const ModelGlare* WorstModel(const ZoneGlare& glare) {
     const ModelGlare* worst = nullptr;
     for (const ModelGlare& model : glare.models) {
         if (model.omission == TabularOmission::None &&
@@ -29,21 +25,20 @@ std::string LimitText(const ZoneAnalysis& analysis) {
         return "";
     }
     const std::int32_t limit = analysis.task->ugrLimit;
-    return limit > 0 ? " (UGRL " + std::to_string(limit) + ")"
-                     : " (" + Simulation::NoLimitText(true) + ")";
+    return limit > 0 ? " (UGRL " + std::to_string(limit) + ")" : " (" + NoLimitText(true) + ")";
 }
 
 /// How the table was read for a model, or why it has no value.
-std::string ReadingText(const ModelGlare& model, const Simulation::ZoneGlare& glare) {
-    const Simulation::ReflectanceSet room = {glare.ceilingReflectance, glare.wallReflectance,
-                                             Simulation::ReflectanceSets.front().floor};
-    return Simulation::ModelNote(model, room, glare.models.size() > 1);
+std::string ReadingText(const ModelGlare& model, const ZoneGlare& glare) {
+    const ReflectanceSet room = {glare.ceilingReflectance, glare.wallReflectance,
+                                 ReflectanceSets.front().floor};
+    return ModelNote(model, room, glare.models.size() > 1);
 }
 
 } // namespace
 
 std::vector<std::string> GlareSummary(const ZoneAnalysis& analysis) {
-    const Simulation::ZoneGlare& glare = analysis.glare;
+    const ZoneGlare& glare = analysis.glare;
     std::vector<std::string> lines;
     if (const ModelGlare* worst = WorstModel(glare)) {
         lines.push_back("UGR " + FormatUgr(glare.ugr) + LimitText(analysis) + ": " +
@@ -62,11 +57,11 @@ std::vector<std::string> GlareSummary(const ZoneAnalysis& analysis) {
         lines.push_back("Fonte pequena: pela CIE 147 o UGR seria " +
                         FormatUgr(glare.smallSourceUgr) + " (só informativo)");
     }
-    const std::string positions = Simulation::PositionsNote(glare.observers);
+    const std::string positions = PositionsNote(glare.observers);
     if (!positions.empty()) {
         lines.push_back(positions);
     }
     return lines;
 }
 
-} // namespace Merivane::Document
+} // namespace Merivane::Simulation

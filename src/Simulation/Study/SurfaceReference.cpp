@@ -1,16 +1,12 @@
-#include "Document/SurfaceReference.hpp"
+#include "Simulation/Study/SurfaceReference.hpp"
 
 #include <algorithm>
 
 #include "Simulation/PrintedValue.hpp"
 
-namespace Merivane::Document {
+namespace Merivane::Simulation {
 
 namespace {
-
-using Simulation::FormatDecimal;
-using Simulation::PointStatistics;
-using Simulation::VerificationRow;
 
 /// The statistics of two sets of points as those of one.
 PointStatistics Join(const PointStatistics& a, const PointStatistics& b) {
@@ -27,17 +23,6 @@ PointStatistics Join(const PointStatistics& a, const PointStatistics& b) {
     return both;
 }
 
-PointStatistics StatisticsOf(const BuiltScene& built, const Simulation::SimulationResult& result,
-                             std::size_t zone, PlaneKind kind) {
-    PointStatistics all;
-    for (std::size_t i = 0; i < built.planes.size() && i < result.zones.size(); ++i) {
-        if (built.planes[i].zone == zone && built.planes[i].kind == kind) {
-            all = Join(all, result.zones[i].statistics);
-        }
-    }
-    return all;
-}
-
 void AppendRows(const std::string& name, const PointStatistics& statistics, double em, double u0,
                 std::vector<VerificationRow>& rows) {
     if (statistics.count == 0) {
@@ -49,8 +34,8 @@ void AppendRows(const std::string& name, const PointStatistics& statistics, doub
                                FormatDecimal(value, decimals) + unit,
                                "≥ " + FormatDecimal(limit, decimals) + unit,
                                true,
-                               Simulation::MeetsMinimum(value, limit, decimals),
-                               Simulation::VerificationKind::Recommendation};
+                               MeetsMinimum(value, limit, decimals),
+                               VerificationKind::Recommendation};
     };
     rows.push_back(row(name, statistics.mean, em, 0, " lx"));
     rows.push_back(row(name + " U0", statistics.uniformity, u0, 2, ""));
@@ -58,17 +43,27 @@ void AppendRows(const std::string& name, const PointStatistics& statistics, doub
 
 } // namespace
 
-std::vector<VerificationRow> SurfaceRows(const BuiltScene& built,
-                                         const Simulation::SimulationResult& result,
-                                         std::size_t zone, const Simulation::TaskRow* task) {
-    const Simulation::ReferenceSurfaces reference =
-        Simulation::ReferenceSurfaceValues(task != nullptr ? task->sectionName : std::string());
+PointStatistics PlaneStatistics(const StudyScene& built, const SimulationResult& result,
+                                std::size_t zone, PlaneKind kind) {
+    PointStatistics all;
+    for (std::size_t i = 0; i < built.planes.size() && i < result.zones.size(); ++i) {
+        if (built.planes[i].zone == zone && built.planes[i].kind == kind) {
+            all = Join(all, result.zones[i].statistics);
+        }
+    }
+    return all;
+}
+
+std::vector<VerificationRow> SurfaceRows(const StudyScene& built, const SimulationResult& result,
+                                         std::size_t zone, const TaskRow* task) {
+    const ReferenceSurfaces reference =
+        ReferenceSurfaceValues(task != nullptr ? task->sectionName : std::string());
     std::vector<VerificationRow> rows;
-    AppendRows("Teto", StatisticsOf(built, result, zone, PlaneKind::Ceiling), reference.ceilingEm,
-               reference.u0, rows);
-    AppendRows("Paredes", StatisticsOf(built, result, zone, PlaneKind::Wall), reference.wallEm,
+    AppendRows("Teto", PlaneStatistics(built, result, zone, PlaneKind::Ceiling),
+               reference.ceilingEm, reference.u0, rows);
+    AppendRows("Paredes", PlaneStatistics(built, result, zone, PlaneKind::Wall), reference.wallEm,
                reference.u0, rows);
     return rows;
 }
 
-} // namespace Merivane::Document
+} // namespace Merivane::Simulation
