@@ -5,6 +5,7 @@
 #include <string>
 
 #include "Host/Dialog.hpp"
+#include "Simulation/CalculationSettings.hpp"
 
 namespace Merivane {
 
@@ -22,6 +23,7 @@ struct AddOnState {
     /// registration; there is none then.
     std::optional<std::int16_t> menuThemeOffset;
     PaletteState toolbar;
+    Simulation::CalculationSettings calculation; ///< those last accepted
 };
 
 AddOnState& CurrentAddOnState();

@@ -149,6 +149,77 @@ void ExpectItems(int dialog, std::size_t count, const std::vector<ItemUse>& uses
     }
 }
 
+TEST(DialogResources, HaveTheItemsOfTheCalculation) {
+    namespace Item = ResourceIds::Calculation;
+    ExpectItems(Item::Dialog, 34,
+                {
+                    {Item::Accept, ItemKind::Button, "Calcular"},
+                    {Item::Cancel, ItemKind::Button, "Cancelar"},
+                    {Item::Summary, ItemKind::LeftText, ""},
+                    {4, ItemKind::GroupBox, "Malha de calculo"},
+                    {5, ItemKind::LeftText, "Altura do plano de trabalho:"},
+                    {Item::WorkPlaneHeight, ItemKind::LengthEdit, ""},
+                    {7, ItemKind::LeftText, "Afastamento dos pontos da parede:"},
+                    {Item::WallOffset, ItemKind::LengthEdit, ""},
+                    {9, ItemKind::LeftText, "Faixa de borda fora das estatisticas:"},
+                    {Item::BorderBand, ItemKind::LengthEdit, ""},
+                    {11, ItemKind::GroupBox, "Simulacao"},
+                    {Item::ReviewReflectances, ItemKind::CheckBox,
+                     "Revisar as refletancias das superficies antes de calcular"},
+                    {Item::ColouredReflection, ItemKind::CheckBox,
+                     "Considerar a cor das superficies (reflexao colorida)"},
+                    {Item::OpenEngine, ItemKind::Button, "Motor de simulacao..."},
+                    {Item::EngineSummary, ItemKind::LeftText, ""},
+                    {16, ItemKind::GroupBox, "Verificacao"},
+                    {Item::Verify, ItemKind::CheckBox,
+                     "Verificar pela NBR ISO/CIE 8995-1 (atividade de cada Zona)"},
+                    {Item::PlaneFacesViewer, ItemKind::CheckBox,
+                     "Plano vertical: face voltada para quem olha o corte"},
+                    {Item::Surfaces, ItemKind::CheckBox,
+                     "Calcular tambem paredes e teto (EN 12464-1, mapa 3D)"},
+                    {Item::Ugr, ItemKind::CheckBox,
+                     "Calcular ofuscamento UGR (metodo tabular e observadores)"},
+                    {21, ItemKind::GroupBox, "Representacao no desenho (cada uma em sua camada)"},
+                    {Item::Fills, ItemKind::CheckBox,
+                     "Mapa de cor falsa (faixas de iluminancia preenchidas)"},
+                    {Item::Model3D, ItemKind::CheckBox,
+                     "Tambem em 3D (Morph colorido no plano de trabalho)"},
+                    {24, ItemKind::LeftText, "Paleta:"},
+                    {Item::ColorScale, ItemKind::PopupControl, ""},
+                    {Item::Legend, ItemKind::CheckBox, "Legenda de cores"},
+                    {Item::Curves, ItemKind::CheckBox, "Curvas isolux"},
+                    {Item::CurveLabels, ItemKind::CheckBox, "Rotulos com o valor de cada curva"},
+                    {Item::Values, ItemKind::CheckBox, "Valores calculados em malha"},
+                    {30, ItemKind::LeftText, "Espacamento:"},
+                    {Item::ValueSpacing, ItemKind::LengthEdit, ""},
+                    {32, ItemKind::LeftText, "Niveis (lx):"},
+                    {Item::Levels, ItemKind::TextEdit, ""},
+                    {Item::LevelsNote, ItemKind::LeftText,
+                     "Separados por ';'. Definem as curvas e as faixas de cor."},
+                });
+    EXPECT_EQ(Tooltip(Item::Dialog, Item::Accept), "Roda o calculo e desenha o que foi marcado.");
+    EXPECT_EQ(Tooltip(Item::Dialog, Item::Cancel), "Fecha sem calcular.");
+}
+
+TEST(DialogResources, LimitTheLengthsOfTheCalculation) {
+    namespace Item = ResourceIds::Calculation;
+    struct Case {
+        std::int16_t item;
+        std::string lowest;
+        std::string highest;
+    };
+    const Case cases[] = {
+        {Item::WorkPlaneHeight, "0", "100"},
+        {Item::WallOffset, "0", "5"},
+        {Item::BorderBand, "0", "10"},
+        {Item::ValueSpacing, "0.05", "100"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(ItemOf(Item::Dialog, c.item).lowest, c.lowest) << c.item;
+        EXPECT_EQ(ItemOf(Item::Dialog, c.item).highest, c.highest) << c.item;
+    }
+}
+
 TEST(DialogResources, HaveTheItemsOfTheEngineDialog) {
     namespace Item = ResourceIds::Engine;
     ExpectItems(

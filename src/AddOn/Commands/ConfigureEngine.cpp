@@ -178,6 +178,10 @@ private:
 
 void ConfigureEngine() {
     BeginLog("Configuracoes do motor de simulacao");
+    EditEngineSettings();
+}
+
+void EditEngineSettings() {
     EngineDialog dialog(Archicad::LoadEngineSettings(), Archicad::LoadLastRun());
     if (!dialog.Invoke()) {
         return;

@@ -89,6 +89,7 @@ Host::ErrorCode FreeData() {
     for (auto palette = std::rbegin(Palettes); palette != std::rend(Palettes); ++palette) {
         palette->unregisterPalette();
     }
+    CurrentAddOnState().calculation = {};
     return Host::NoError;
 }
 

@@ -17,6 +17,34 @@ inline constexpr std::int16_t LightMarkIcon = 10203;
 /// The toolbar palette.
 inline constexpr std::int16_t Toolbar = 32750;
 
+namespace Calculation {
+inline constexpr std::int16_t Dialog = 32620;
+inline constexpr std::int16_t Accept = 1;
+inline constexpr std::int16_t Cancel = 2;
+inline constexpr std::int16_t Summary = 3;
+inline constexpr std::int16_t WorkPlaneHeight = 6;
+inline constexpr std::int16_t WallOffset = 8;
+inline constexpr std::int16_t BorderBand = 10;
+inline constexpr std::int16_t ReviewReflectances = 12;
+inline constexpr std::int16_t ColouredReflection = 13;
+inline constexpr std::int16_t OpenEngine = 14;
+inline constexpr std::int16_t EngineSummary = 15;
+inline constexpr std::int16_t Verify = 17;
+inline constexpr std::int16_t PlaneFacesViewer = 18;
+inline constexpr std::int16_t Surfaces = 19;
+inline constexpr std::int16_t Ugr = 20;
+inline constexpr std::int16_t Fills = 22;
+inline constexpr std::int16_t Model3D = 23;
+inline constexpr std::int16_t ColorScale = 25;
+inline constexpr std::int16_t Legend = 26;
+inline constexpr std::int16_t Curves = 27;
+inline constexpr std::int16_t CurveLabels = 28;
+inline constexpr std::int16_t Values = 29;
+inline constexpr std::int16_t ValueSpacing = 31;
+inline constexpr std::int16_t Levels = 33;
+inline constexpr std::int16_t LevelsNote = 34;
+} // namespace Calculation
+
 namespace Engine {
 inline constexpr std::int16_t Dialog = 32650;
 inline constexpr std::int16_t AdvancedBox = 2;
