@@ -6,13 +6,13 @@
 #include <cstdint>
 #include <limits>
 #include <set>
-#include <string_view>
 #include <utility>
 
 #include "Archicad/FaceReading.hpp"
 #include "Archicad/FloorPlanDatabase.hpp"
 #include "Archicad/HoleJoining.hpp"
 #include "Archicad/ModelReadingSurfaces.hpp"
+#include "Archicad/OlderNames.hpp"
 #include "Archicad/ZoneSight.hpp"
 #include "Host/Attributes.hpp"
 #include "Host/Elements.hpp"
@@ -38,9 +38,6 @@ bool IsMadeOfParts(ElementType type) {
            type == ElementType::CurtainWall || type == ElementType::Stair ||
            type == ElementType::Railing;
 }
-
-/// Layers that hold results of earlier calculations; those must not shade the new one.
-constexpr std::array<std::string_view, 2> OwnLayers = {"Vantoro - ", "Merivane - "};
 
 constexpr double SmallestDoubledArea = 1e-12; // m2
 constexpr double LevelFace = 0.7;             // of the unit normal's z, from there up
@@ -78,15 +75,14 @@ double LowestFloor(const std::vector<ZoneRecord>& zones) {
     return lowest;
 }
 
+/// Layers that hold results of earlier calculations; those must not shade the new one.
 std::set<Host::AttributeIndex> FindOwnLayers() {
     std::set<Host::AttributeIndex> own;
     std::vector<Host::AttributeIndex> layers;
     Host::ListAttributes(Host::AttributeType::Layer, layers);
     for (const Host::AttributeIndex index : layers) {
         Host::Layer layer;
-        if (Host::GetLayer(index, layer) == Host::NoError &&
-            std::any_of(OwnLayers.begin(), OwnLayers.end(),
-                        [&](std::string_view begin) { return layer.name.starts_with(begin); })) {
+        if (Host::GetLayer(index, layer) == Host::NoError && IsOwnLayerName(layer.name)) {
             own.insert(index);
         }
     }
