@@ -22,7 +22,8 @@ double DistanceToNearest(const std::vector<Point2D>& placed, Point2D point, doub
     return nearest;
 }
 
-std::optional<Point2D> ChoosePoint(const IsoCurve& curve, const std::vector<Point2D>& placed) {
+std::optional<Point2D> ChoosePoint(const IsoCurve& curve, const std::vector<Point2D>& placed,
+                                   double leastDistance) {
     if (curve.points.size() < FewestPoints) {
         return std::nullopt;
     }
@@ -35,16 +36,17 @@ std::optional<Point2D> ChoosePoint(const IsoCurve& curve, const std::vector<Poin
             best = point;
         }
     }
-    return farthest < LeastDistance ? std::nullopt : std::optional<Point2D>(best);
+    return farthest < leastDistance ? std::nullopt : std::optional<Point2D>(best);
 }
 
 } // namespace
 
-CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves) {
+CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves, double labelWidth) {
+    const double leastDistance = std::max(LeastDistance, labelWidth);
     CurveLabels labels;
     std::vector<Point2D> placed;
     for (const IsoCurve& curve : curves) {
-        const std::optional<Point2D> position = ChoosePoint(curve, placed);
+        const std::optional<Point2D> position = ChoosePoint(curve, placed, leastDistance);
         if (position) {
             placed.push_back(*position);
         } else {

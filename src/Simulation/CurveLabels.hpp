@@ -16,9 +16,11 @@ struct CurveLabels {
 };
 
 /// Places at most one label on each curve, clear of all others: each goes to the curve's point
-/// that is farthest from the labels already placed, the first of equals. A curve of fewer than 6
-/// points, or without a point at least 0.35 m from every label, gets none.
-CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves);
+/// that is farthest from the labels already placed, the first of equals. Labels keep 0.35 m from
+/// each other, or `labelWidth` where that is more: the width of the widest label in the drawing's
+/// scale [m], so that no two cover each other. A curve of fewer than 6 points, or without a point
+/// that far from every label, gets none.
+CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves, double labelWidth = 0.0);
 
 /// One line for the log on curves without a label: "3 curva(s) sem rotulo (...)".
 std::string UnlabelledCurvesText(std::uint64_t count);

@@ -63,6 +63,26 @@ TEST(PlaceCurveLabels, KeepsThirtyFiveCentimetresBetweenLabels) {
     }
 }
 
+TEST(PlaceCurveLabels, KeepsTheWidthOfALabelWhereThatIsMore) {
+    const struct {
+        double width;
+        double distance;
+        bool labelled;
+    } cases[] = {{1.2, 1.1999, false}, {1.2, 1.2, true},    {1.2, 1.2001, true},
+                 {0.1, 0.3499, false}, {0.1, 0.35, true},   {0.35, 0.35, true},
+                 {0.36, 0.35, false},  {-1.0, 0.349, false}};
+    for (const auto& c : cases) {
+        const CurveLabels labels =
+            PlaceCurveLabels({Line({0, 0}, 0, 6), Line({c.distance, 0}, 0, 6)}, c.width);
+        EXPECT_EQ(labels.positions[1].has_value(), c.labelled) << c.width << " " << c.distance;
+        EXPECT_EQ(labels.unlabelled, c.labelled ? 0U : 1U);
+    }
+}
+
+TEST(PlaceCurveLabels, TheFirstLabelOfAZoneHasRoomHoweverWideItIs) {
+    EXPECT_EQ(PlaceCurveLabels({Line({0, 0}, 1, 6)}, 1e8).positions[0], (Point2D{0, 0}));
+}
+
 TEST(PlaceCurveLabels, PlacesAsLookingAtEveryPairDoes) {
     std::mt19937 random(11);
     std::vector<IsoCurve> curves(200);
