@@ -143,6 +143,7 @@ void FailCall(std::string_view operation, int nth, Host::ErrorCode code) {
 }
 
 Host::ErrorCode CountCall(std::string_view operation) {
+    ++CurrentSession().calls[std::string(operation)];
     Host::ErrorCode code = Host::NoError;
     std::vector<Fault>& faults = CurrentSession().faults;
     for (Fault& fault : faults) {

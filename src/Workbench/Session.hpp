@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -81,6 +82,7 @@ struct Session {
     std::vector<ReportLine> reportLines; ///< oldest first
     Preferences preferences;             ///< where there is no preferences file
     std::vector<Fault> faults;           ///< those still to come
+    std::map<std::string, int, std::less<>> calls; ///< of the port's functions, by their names
     UserInterface userInterface;         ///< dialogs, palettes, menus
 
     bool projectOpen = false;
