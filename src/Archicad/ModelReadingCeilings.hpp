@@ -8,9 +8,10 @@
 
 namespace Merivane::Archicad {
 
-/// Gives every Zone the height of its real ceiling, where the model shows one: walls and ceilings of
-/// calculations end there. With `logRequested` a line for each Zone that the user should know of is
-/// appended to `logLines`.
+/// A Zone's height is often not that of its room: sets `height` of every Zone to that of the
+/// ceiling which the model's faces form over at least half of it, see `DetectCeiling`. Differences
+/// under 0.005 m are left. With `logRequested` what was found, and what was not, goes to
+/// `logLines`.
 void DetectCeilings(std::vector<ZoneRecord>& zones,
                     const std::vector<Simulation::SceneSurface>& surfaces, bool logRequested,
                     std::vector<std::string>& logLines);

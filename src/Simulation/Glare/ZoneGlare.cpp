@@ -127,9 +127,9 @@ void Compare(bool hasTask, std::int32_t ugrLimit, ZoneGlare& glare) {
         glare.log.push_back(LimitLogLine(glare.ugr, ugrLimit));
         return;
     }
-    const std::string compared = FormatUgr(glare.ugr) + " - " + NoLimitText(hasTask);
-    glare.log.push_back("  UGR da instalacao " + compared);
-    glare.notes.push_back("UGR da instalação " + compared);
+    glare.log.push_back("  UGR da instalacao " + FormatUgr(glare.ugr) + " - " +
+                        NoLimitText(hasTask));
+    glare.notes.push_back(NoLimitNote(glare.ugr, hasTask));
 }
 
 void TellReference(ZoneGlare& glare) {

@@ -146,4 +146,16 @@ std::string NoLimitText(bool hasTask) {
                    : "sem atividade definida na Zona: sem comparação com o UGRL";
 }
 
+std::string NoLimitNote(double ugr, bool hasTask) {
+    return "UGR da instalação " + FormatUgr(ugr) + " - " + NoLimitText(hasTask);
+}
+
+std::string SmallSourceNote(const ZoneGlare& glare) {
+    if (!glare.hasSmallSourceUgr || glare.smallSourceUgr <= 0.0) {
+        return "";
+    }
+    return "Fonte pequena: pela CIE 147 o UGR seria " + FormatUgr(glare.smallSourceUgr) +
+           " (só informativo)";
+}
+
 } // namespace Merivane::Simulation

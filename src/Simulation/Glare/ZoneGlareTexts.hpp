@@ -32,4 +32,10 @@ std::string LimitLogLine(double ugr, std::int32_t ugrLimit);
 /// Why the Zone's value is compared with nothing.
 std::string NoLimitText(bool hasTask);
 
+/// The note on a value that is compared with nothing.
+std::string NoLimitNote(double ugr, bool hasTask);
+
+/// The value by CIE 147 of a Zone with small sources; empty without one.
+std::string SmallSourceNote(const ZoneGlare& glare);
+
 } // namespace Merivane::Simulation

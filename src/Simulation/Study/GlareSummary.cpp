@@ -24,8 +24,8 @@ std::string LimitText(const ZoneAnalysis& analysis) {
     if (analysis.task == nullptr) {
         return "";
     }
-    const std::int32_t limit = analysis.task->ugrLimit;
-    return limit > 0 ? " (UGRL " + std::to_string(limit) + ")" : " (" + NoLimitText(true) + ")";
+    return HasUgrLimit(analysis) ? " (UGRL " + std::to_string(analysis.task->ugrLimit) + ")"
+                                 : " (" + NoLimitText(true) + ")";
 }
 
 /// How the table was read for a model, or why it has no value.
@@ -40,9 +40,8 @@ std::string ReadingText(const ModelGlare& model, const ZoneGlare& glare) {
 std::vector<std::string> GlareSummary(const ZoneAnalysis& analysis) {
     const ZoneGlare& glare = analysis.glare;
     std::vector<std::string> lines;
-    if (const ModelGlare* worst = WorstModel(glare)) {
-        lines.push_back("UGR " + FormatUgr(glare.ugr) + LimitText(analysis) + ": " +
-                        ReadingText(*worst, glare));
+    if (const std::string reading = WorstReading(glare); !reading.empty()) {
+        lines.push_back("UGR " + FormatUgr(glare.ugr) + LimitText(analysis) + ": " + reading);
         lines.push_back("UGR na sala de referência 4H x 8H: " + FormatUgr(glare.referenceUgr));
     }
     for (const ModelGlare& model : glare.models) {
@@ -53,15 +52,21 @@ std::vector<std::string> GlareSummary(const ZoneAnalysis& analysis) {
     if (glare.models.empty()) {
         lines.insert(lines.end(), glare.notes.begin(), glare.notes.end());
     }
-    if (glare.hasSmallSourceUgr && glare.smallSourceUgr > 0.0) {
-        lines.push_back("Fonte pequena: pela CIE 147 o UGR seria " +
-                        FormatUgr(glare.smallSourceUgr) + " (só informativo)");
-    }
-    const std::string positions = PositionsNote(glare.observers);
-    if (!positions.empty()) {
-        lines.push_back(positions);
+    for (const std::string& note : {SmallSourceNote(glare), PositionsNote(glare.observers)}) {
+        if (!note.empty()) {
+            lines.push_back(note);
+        }
     }
     return lines;
+}
+
+std::string WorstReading(const ZoneGlare& glare) {
+    const ModelGlare* worst = WorstModel(glare);
+    return worst != nullptr ? ReadingText(*worst, glare) : "";
+}
+
+bool HasUgrLimit(const ZoneAnalysis& analysis) {
+    return analysis.task != nullptr && analysis.task->ugrLimit >= 1;
 }
 
 } // namespace Merivane::Simulation

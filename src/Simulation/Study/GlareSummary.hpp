@@ -12,4 +12,11 @@ namespace Merivane::Simulation {
 /// none, the reference room, small sources, the observers of the real layout.
 std::vector<std::string> GlareSummary(const ZoneAnalysis& analysis);
 
+/// How the table was read for the model whose value is the Zone's; with several models over the
+/// Zone it says which. Empty where no model has a value.
+std::string WorstReading(const ZoneGlare& glare);
+
+/// True when the Zone has an activity for which the standard gives a UGRL.
+bool HasUgrLimit(const ZoneAnalysis& analysis);
+
 } // namespace Merivane::Simulation
