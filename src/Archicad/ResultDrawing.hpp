@@ -47,7 +47,9 @@ struct ResultStructure {
 Host::ErrorCode PrepareResultStructure(const DrawingOptions& options, ResultStructure& structure);
 
 /// Deletes what earlier calculations drew on `floors` (none = on every floor): polylines, texts,
-/// lines, fills and Morphs on the result layers. `count` gets how many. In an undo step.
+/// lines, fills and Morphs on the result layers, whoever put them there. `count` gets how many. A
+/// lock of a layer or an element holds what it locks: the rest goes, then the host's error is
+/// returned. In an undo step.
 Host::ErrorCode DeleteResultElements(const ResultLayers& layers,
                                      const std::vector<std::int32_t>& floors, std::int32_t& count);
 
@@ -62,19 +64,22 @@ struct ZonePlacement {
 /// structure's scale. Reads the floor's elements; call it after `DeleteResultElements`.
 struct FloorLayout {
     std::int32_t floorIndex = 0;
-    std::vector<ZonePlacement> zones;
-    Simulation::Point2D legend; ///< upper left corner [m]
+    std::vector<ZonePlacement> zones; ///< in the order of the drawings
+    Simulation::Point2D legend;       ///< upper left corner [m]; without a legend (0, 0)
 };
 FloorLayout LayOutFloor(std::int32_t floorIndex,
                         const std::vector<const Simulation::ZoneDrawing*>& drawings,
                         const DrawingOptions& options, const ResultStructure& structure);
 
 /// Draws one Zone in an undo step: bands, curves with labels, values, the limit of the task area,
-/// the summary. What the host refuses is counted into one of `warnings`; the run goes on.
+/// the summary. What the host refuses is counted into one of `warnings`; the run goes on. What the
+/// project lacks is told once in `warnings`: hand the same ones to every Zone.
 void DrawZone(const ZonePlacement& zone, const DrawingOptions& options,
               const ResultStructure& structure, std::vector<std::string>& warnings);
 
-/// Draws the legend of the colour bands with its upper left corner at (`x`, `y`) [m].
+/// Draws the legend of the colour bands with its upper left corner at `corner` [m], in an undo
+/// step; nothing where `options` want none, without levels and without a solid fill. What the host
+/// refuses is counted into one of `warnings`.
 void DrawLegend(std::int32_t floorIndex, Simulation::Point2D corner, const DrawingOptions& options,
                 const ResultStructure& structure, std::vector<std::string>& warnings);
 

@@ -53,20 +53,6 @@ double WidestValue(const Simulation::GridField& field) {
     return Drawing::MeasureText(Simulation::FormatDecimal(highest, 0), ValueHeight).width;
 }
 
-// The topmost point of all curves; of tops equal within 1e-9 m the leftmost.
-Point2D TopmostPoint(const std::vector<Simulation::IsoCurve>& outline) {
-    Point2D top = outline.front().points.front();
-    for (const Simulation::IsoCurve& curve : outline) {
-        for (const Point2D& place : curve.points) {
-            const bool level = std::abs(place.y - top.y) <= 1e-9;
-            if (level ? place.x < top.x : place.y > top.y) {
-                top = place;
-            }
-        }
-    }
-    return top;
-}
-
 // Points along the curves, at most `step` mm of paper apart, those nearest to `start` first.
 std::vector<Point> PointsAlong(const PlanSheet& sheet,
                                const std::vector<Simulation::IsoCurve>& curves, Point start,
@@ -96,7 +82,7 @@ std::vector<Point> OutlineLabelPlaces(const PlanSheet& sheet, const PlanZone& zo
     constexpr double over = 0.8;          // mm
     constexpr double rightOfPoint = 0.05; // m
     constexpr double step = 3.0;          // mm
-    const Point2D top = TopmostPoint(outline);
+    const Point2D top = Simulation::TopmostPoint(outline).value_or(Point2D());
     const Point wanted = OnPaper(sheet, {top.x + rightOfPoint, top.y});
     std::vector<Point> places = {{wanted.x, wanted.y + over}};
     for (const Point& point : PointsAlong(sheet, outline, wanted, step)) {
@@ -180,7 +166,7 @@ void AppendOutlineLabel(Drawing::Layer& layer, TextSpace& space, const PlanSheet
     if (outline.empty()) {
         return;
     }
-    TextRun text = SheetText("Limite da área de tarefa", 0.0, 0.0, OutlineLabelHeight);
+    TextRun text = SheetText(Simulation::TaskLimitText, 0.0, 0.0, OutlineLabelHeight);
     text.halo = Halo;
     const double width = Drawing::MeasureText(text.text, text.height).width;
     if (PlaceText(space, text, OutlineLabelPlaces(sheet, zone, outline, width))) {

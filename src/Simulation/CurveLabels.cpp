@@ -11,6 +11,7 @@ namespace {
 constexpr std::size_t FewestPoints = 6;
 constexpr double LeastDistance = 0.35; // [m]
 constexpr double NoLabelYet = 1e9;     // [m]
+constexpr double EquallyHigh = 1e-9;   // [m]
 
 /// Distance to the nearest label; any value up to `enough` when a label is that near, as the point
 /// is then no better than one already found.
@@ -55,6 +56,19 @@ CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves, double labelWi
         labels.positions.push_back(position);
     }
     return labels;
+}
+
+std::optional<Point2D> TopmostPoint(const std::vector<IsoCurve>& curves) {
+    std::optional<Point2D> top;
+    for (const IsoCurve& curve : curves) {
+        for (const Point2D& point : curve.points) {
+            const bool level = top && std::abs(point.y - top->y) <= EquallyHigh;
+            if (!top || (level ? point.x < top->x : point.y > top->y)) {
+                top = point;
+            }
+        }
+    }
+    return top;
 }
 
 std::string UnlabelledCurvesText(std::uint64_t count) {

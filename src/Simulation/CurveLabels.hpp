@@ -22,6 +22,13 @@ struct CurveLabels {
 /// that far from every label, gets none.
 CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves, double labelWidth = 0.0);
 
+/// What is written at the limit of the task area.
+inline constexpr const char* TaskLimitText = "Limite da área de tarefa";
+
+/// The topmost point of all curves, of tops equal within 1e-9 m the leftmost: where the limit of
+/// the task area is named. None without points.
+std::optional<Point2D> TopmostPoint(const std::vector<IsoCurve>& curves);
+
 /// One line for the log on curves without a label: "3 curva(s) sem rotulo (...)".
 std::string UnlabelledCurvesText(std::uint64_t count);
 

@@ -121,6 +121,18 @@ TEST(PlaceCurveLabels, PlacesAsLookingAtEveryPairDoes) {
     EXPECT_GT(without, 0U);
 }
 
+TEST(TopmostPoint, IsTheLeftmostOfThoseEquallyHigh) {
+    EXPECT_EQ(TopmostPoint({}), std::nullopt);
+    EXPECT_EQ(TopmostPoint({IsoCurve()}), std::nullopt);
+    EXPECT_EQ(TopmostPoint({Line({0, 1}, 1, 3), Line({5, 4}, -1, 3), Line({9, 2}, 1, 3)}),
+              (Point2D{3, 4}));
+    EXPECT_EQ(TopmostPoint({Line({5, 4}, 1, 2), Line({2, 4 - 0.9e-9}, 1, 2)}),
+              (Point2D{2, 4 - 0.9e-9}));
+    EXPECT_EQ(TopmostPoint({Line({5, 4}, 1, 2), Line({2, 4 - 1.1e-9}, 1, 2)}), (Point2D{5, 4}));
+    EXPECT_EQ(TopmostPoint({Line({5, 4}, 1, 2), Line({7, 4 + 1.1e-9}, 1, 2)}),
+              (Point2D{7, 4 + 1.1e-9}));
+}
+
 TEST(UnlabelledCurvesText, CountsThem) {
     EXPECT_EQ(UnlabelledCurvesText(3),
               "3 curva(s) sem rotulo (pequenas demais ou sem espaco livre)");
