@@ -5,7 +5,6 @@
 #include <variant>
 #include <vector>
 
-#include "Drawing/TextSize.hpp"
 #include "Host/Elements.hpp"
 #include "Workbench/Bodies/ElementBodies.hpp"
 #include "Workbench/Bodies/ElementBounds.hpp"
@@ -38,36 +37,16 @@ double MetresOfMillimetre(const Session& session, const Guid& database) {
     return scale / MillimetresInMetre;
 }
 
-// Width and height of a text's block [mm], as it is drawn.
-Coordinate TextBlockSize(const TextData& text, const std::vector<TextParagraph>& paragraphs) {
-    TextData upright = text;
-    upright.angle = 0.0;
-    upright.anchor = TextAnchor::LeftTop;
-    Coordinate size{0.0, text.size};
-    for (const Drawing::TextRun& run : Workbench::LayOutText(upright, paragraphs, {})) {
-        const double width = Drawing::MeasureText(run.text, run.height, run.weight).width;
-        size.x = std::max(size.x, run.position.x + width);
-        size.y = std::max(size.y, -run.position.y);
-    }
-    return {text.width > 0.0 ? text.width : size.x, size.y};
-}
-
 void AddText(Extent& extent, const TextData& text, const std::vector<TextParagraph>& paragraphs,
              double metres) {
-    const auto [width, height] = TextBlockSize(text, paragraphs);
-    const auto anchor = static_cast<std::int32_t>(text.anchor);
-    const std::int32_t column = anchor % 3;
-    const std::int32_t row = anchor / 3;
-    const double left = -width * column / 2.0;
-    const double top = height * row / 2.0;
-    for (const Coordinate& corner :
-         {Coordinate{left, top}, Coordinate{left + width, top}, Coordinate{left, top - height},
-          Coordinate{left + width, top - height}}) {
-        const double cosine = std::cos(text.angle);
-        const double sine = std::sin(text.angle);
-        Workbench::AddPlace(extent,
-                            {text.position.x + metres * (corner.x * cosine - corner.y * sine),
-                             text.position.y + metres * (corner.x * sine + corner.y * cosine)});
+    const auto [lowest, highest] = Workbench::FrameText(text, paragraphs);
+    const double cosine = std::cos(text.angle);
+    const double sine = std::sin(text.angle);
+    for (const double x : {lowest.x, highest.x}) {
+        for (const double y : {lowest.y, highest.y}) {
+            Workbench::AddPlace(extent, {text.position.x + metres * (x * cosine - y * sine),
+                                         text.position.y + metres * (x * sine + y * cosine)});
+        }
     }
 }
 

@@ -94,6 +94,31 @@ TEST(Bounds, OfATextThatBreaksInItsBoxHoldAllItsLines) {
     ExpectBox(BoundsOf(ElementType::Text, text, memo), {0.0, -0.5, 0.0}, {2.0, 0.0, 0.0});
 }
 
+TEST(Bounds, OfATextHoldItsEmptyParagraphs) {
+    Host::TextData text;
+    text.size = 2.0;
+    text.width = 40.0;
+    text.anchor = Host::TextAnchor::LeftTop;
+    Host::ElementMemo memo = OneLine("lx");
+    memo.paragraphs.push_back({});
+    ExpectBox(BoundsOf(ElementType::Text, text, memo), {0.0, -0.5, 0.0}, {4.0, 0.0, 0.0});
+    text.anchor = Host::TextAnchor::LeftBottom;
+    ExpectBox(BoundsOf(ElementType::Text, text, memo), {0.0, 0.0, 0.0}, {4.0, 0.5, 0.0});
+}
+
+TEST(Bounds, OfATextHoldAWordThatIsWiderThanItsBox) {
+    Host::TextData text;
+    text.anchor = Host::TextAnchor::LeftBottom;
+    const double width = BoundsOf(ElementType::Text, text, OneLine("luminotecnica")).highest.x;
+    text.width = 5.0; // mm; the word takes some 20
+    ASSERT_GT(width, 1.0);
+    ExpectBox(BoundsOf(ElementType::Text, text, OneLine("luminotecnica")), {0.0, 0.0, 0.0},
+              {width, 0.2, 0.0});
+    text.anchor = Host::TextAnchor::RightBottom;
+    ExpectBox(BoundsOf(ElementType::Text, text, OneLine("luminotecnica")), {-width, 0.0, 0.0},
+              {0.0, 0.2, 0.0});
+}
+
 TEST(Bounds, OfATextWithoutAWidthAreThoseOfItsLongestLine) {
     const Host::TextData text;
     const Box shorter = BoundsOf(ElementType::Text, text, OneLine("500 lx"));

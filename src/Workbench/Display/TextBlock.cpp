@@ -33,6 +33,17 @@ struct Line {
     double width = 0.0; // without the blanks at its end [mm]
     double size = 0.0;  // of its highest capitals [mm]
     bool hasTab = false;
+    double left = 0.0; // of its first letter, from the anchor [mm]
+    double base = 0.0; // that its letters stand on, above the anchor [mm]
+};
+
+// Lines in their places about the anchor, before they are turned.
+struct Block {
+    std::vector<Line> lines;
+    double left = 0.0; // of the whole block
+    double top = 0.0;
+    double width = 0.0;
+    double height = 0.0;
 };
 
 double Measure(const std::string& text, const TextStretch& look) {
@@ -149,37 +160,56 @@ Drawing::TextRun MakeRun(const Piece& piece, const Drawing::Point& place, double
     return run;
 }
 
+Block BuildBlock(const Host::TextData& text, const std::vector<TextParagraph>& paragraphs) {
+    Block block;
+    block.lines = MakeLines(text, paragraphs);
+    block.width = text.width;
+    for (const Line& line : block.lines) {
+        block.width = text.width > 0.0 ? block.width : std::max(block.width, line.width);
+        block.height += &line == &block.lines.front() ? line.size : TextLineStep * line.size;
+    }
+    const auto anchor = static_cast<std::int32_t>(text.anchor);
+    const std::int32_t row = anchor / 3;
+    const double side = anchor % 3 / 2.0; // 0 left, 1 right
+    block.left = -block.width * side;
+    block.top = block.height * row / 2.0;
+    double base = block.top;
+    for (Line& line : block.lines) {
+        base -= &line == &block.lines.front() ? line.size : TextLineStep * line.size;
+        line.base = base;
+        line.left = block.left + (line.hasTab ? 0.0 : (block.width - line.width) * side);
+    }
+    return block;
+}
+
 } // namespace
 
 std::vector<Drawing::TextRun> LayOutText(const Host::TextData& text,
                                          const std::vector<TextParagraph>& paragraphs,
                                          const Drawing::Point& position) {
-    const std::vector<Line> lines = MakeLines(text, paragraphs);
-    double width = text.width;
-    double height = 0.0;
-    for (const Line& line : lines) {
-        width = text.width > 0.0 ? width : std::max(width, line.width);
-        height += &line == &lines.front() ? line.size : TextLineStep * line.size;
-    }
-    const auto anchor = static_cast<std::int32_t>(text.anchor);
-    const std::int32_t row = anchor / 3;
-    const double side = anchor % 3 / 2.0; // 0 left, 1 right
     const double cosine = std::cos(text.angle);
     const double sine = std::sin(text.angle);
-    double base = height * row / 2.0;
     std::vector<Drawing::TextRun> runs;
-    for (const Line& line : lines) {
-        base -= &line == &lines.front() ? line.size : TextLineStep * line.size;
-        const double left = -width * side + (line.hasTab ? 0.0 : (width - line.width) * side);
+    for (const Line& line : BuildBlock(text, paragraphs).lines) {
         for (const Piece& piece : line.pieces) {
-            const double x = left + piece.x;
-            runs.push_back(MakeRun(
-                piece,
-                {position.x + x * cosine - base * sine, position.y + x * sine + base * cosine},
-                text.angle));
+            const double x = line.left + piece.x;
+            runs.push_back(MakeRun(piece,
+                                   {position.x + x * cosine - line.base * sine,
+                                    position.y + x * sine + line.base * cosine},
+                                   text.angle));
         }
     }
     return runs;
+}
+
+TextFrame FrameText(const Host::TextData& text, const std::vector<TextParagraph>& paragraphs) {
+    const Block block = BuildBlock(text, paragraphs);
+    TextFrame frame{{block.left, block.top - block.height}, {block.left + block.width, block.top}};
+    for (const Line& line : block.lines) { // a word can be wider than the box
+        frame.lowest.x = std::min(frame.lowest.x, line.left);
+        frame.highest.x = std::max(frame.highest.x, line.left + line.width);
+    }
+    return frame;
 }
 
 } // namespace Merivane::Workbench

@@ -21,4 +21,14 @@ std::vector<Drawing::TextRun> LayOutText(const Host::TextData& text,
                                          const std::vector<Host::TextParagraph>& paragraphs,
                                          const Drawing::Point& position);
 
+/// Two corners of an upright rectangle [mm].
+struct TextFrame {
+    Drawing::Point lowest;
+    Drawing::Point highest;
+};
+
+/// The rectangle around that block, as it stands about its anchor before it is turned, and around
+/// lines that reach out of their box.
+TextFrame FrameText(const Host::TextData& text, const std::vector<Host::TextParagraph>& paragraphs);
+
 } // namespace Merivane::Workbench
