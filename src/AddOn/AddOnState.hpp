@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "Archicad/RunRadiance.hpp"
 #include "Host/Dialog.hpp"
 #include "Simulation/CalculationSettings.hpp"
 
@@ -24,6 +25,7 @@ struct AddOnState {
     std::optional<std::int16_t> menuThemeOffset;
     PaletteState toolbar;
     Simulation::CalculationSettings calculation; ///< those last accepted
+    Archicad::RunOptions run;                    ///< of calculations; no dialog asks for them
 };
 
 AddOnState& CurrentAddOnState();

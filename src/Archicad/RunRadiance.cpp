@@ -42,13 +42,16 @@ std::wstring WorkFolderPath() {
     return error ? std::wstring() : Text::WidePath(folder);
 }
 
-SimulationOptions MakeOptions(const Radiance::Installation& installation,
-                              const std::wstring& workFolder) {
+SimulationOptions MakeOptions(const Radiance::Installation& installation, const RunOptions& asked) {
     SimulationOptions options;
-    options.workFolder = workFolder;
+    options.workFolder = asked.workFolder.empty() ? WorkFolderPath() : asked.workFolder;
     options.radianceBinFolder = installation.binFolder;
     options.radianceLibFolder = installation.libFolder;
     options.engine = LoadEngineSettings();
+    options.repeatable = asked.repeatable;
+    if (asked.repeatable) {
+        options.processCount = 1; // several processes never repeat exactly
+    }
     return options;
 }
 
@@ -81,10 +84,9 @@ void RememberRun(std::uint64_t points, double seconds, const Simulation::EngineS
 } // namespace
 
 bool RunRadiance(const Simulation::Scene& scene, const Radiance::Installation& installation,
-                 SimulationResult& result, std::string& workFolderText) {
-    const std::wstring workFolder = WorkFolderPath();
-    workFolderText = Text::Narrow(workFolder);
-    const SimulationOptions options = MakeOptions(installation, workFolder);
+                 SimulationResult& result, std::string& workFolderText, const RunOptions& asked) {
+    const SimulationOptions options = MakeOptions(installation, asked);
+    workFolderText = Text::Narrow(options.workFolder);
     std::chrono::duration<double> elapsed{};
     {
         ProcessWindow window("Vantoro: cálculo de iluminação", StageCount);
@@ -103,8 +105,9 @@ bool RunRadiance(const Simulation::Scene& scene, const Radiance::Installation& i
     }
     const std::uint64_t points = Simulation::PlanePointCount(scene);
     RememberRun(points, elapsed.count(), options.engine);
-    Commands::ReportLine("Radiance: " + std::to_string(points) + " ponto(s) em " +
-                         Text::FormatFixed(elapsed.count(), 0) + " s");
+    const std::string time =
+        asked.repeatable ? "" : " em " + Text::FormatFixed(elapsed.count(), 0) + " s";
+    Commands::ReportLine("Radiance: " + std::to_string(points) + " ponto(s)" + time);
     return true;
 }
 

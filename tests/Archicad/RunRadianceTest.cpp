@@ -45,7 +45,7 @@ protected:
         SaveLastRun(Earlier);
     }
 
-    bool Run() { return RunRadiance(scene, installation, result, workFolderText); }
+    bool Run() { return RunRadiance(scene, installation, result, workFolderText, asked); }
 
     std::string WorkFolder() const { return (folder.Path() / "Vantoro" / "calculo").string(); }
 
@@ -78,6 +78,7 @@ protected:
     Scene scene = Tests::SmallRoom(1.0);
     SimulationResult result;
     std::string workFolderText;
+    RunOptions asked;
 };
 
 TEST_F(RunOfRadiance, CalculatesInTheFolderThatAllRunsShare) {
@@ -142,6 +143,29 @@ TEST_F(RunOfRadiance, LogsTheEngineTheRunAndHowLongItTook) {
     EXPECT_EQ(lines.back(), "Vantoro: Radiance: " + std::to_string(PlanePointCount(scene)) +
                                 " ponto(s) em " + seconds + " s");
     EXPECT_EQ(Tests::LinesOf(folder.Path() / "Vantoro" / "relatorio.txt").size(), lines.size());
+}
+
+TEST_F(RunOfRadiance, WorksInTheFolderThatItIsAskedTo) {
+    asked.workFolder = Text::WidePath(folder.Path() / "aqui");
+    ASSERT_TRUE(Run()) << result.error;
+    EXPECT_EQ(workFolderText, (folder.Path() / "aqui").string());
+    EXPECT_TRUE(std::filesystem::exists(folder.Path() / "aqui" / "scene.oct"));
+    EXPECT_FALSE(std::filesystem::exists(WorkFolder()));
+}
+
+TEST_F(RunOfRadiance, RepeatsItsValuesAndItsLogInOneProcess) {
+    EngineSettings engine = ProfileSettings(0);
+    engine.maxProcesses = 2;
+    SaveEngineSettings(engine);
+    asked.repeatable = true;
+    ASSERT_TRUE(Run()) << result.error;
+    const SimulationResult first = result;
+    ASSERT_TRUE(Run()) << result.error;
+    EXPECT_EQ(result.zones[0].illuminance, first.zones[0].illuminance);
+    EXPECT_EQ(result.log, first.log);
+    EXPECT_EQ(Workbench::CurrentSession().processWindows[0].phases.size(), 2U); // no seed
+    EXPECT_EQ(Reports().back(), "Vantoro: Radiance: " + std::to_string(PlanePointCount(scene)) +
+                                    " ponto(s)"); // the time would differ
 }
 
 TEST_F(RunOfRadiance, RemembersHowLongItTook) {

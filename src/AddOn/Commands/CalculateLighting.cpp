@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "AddOn/AddOnState.hpp"
 #include "AddOn/Commands/CalculationInput.hpp"
 #include "AddOn/Commands/CalculationResults.hpp"
 #include "AddOn/RunLog/RunLog.hpp"
@@ -14,8 +15,9 @@ namespace {
 /// True when there are values.
 bool RunEngine(Calculation& calculation) {
     const auto started = std::chrono::steady_clock::now();
-    const bool calculated = Archicad::RunRadiance(calculation.built.scene, calculation.installation,
-                                                  calculation.result, calculation.workFolder);
+    const bool calculated =
+        Archicad::RunRadiance(calculation.built.scene, calculation.installation, calculation.result,
+                              calculation.workFolder, CurrentAddOnState().run);
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - started;
     calculation.seconds = elapsed.count();
     if (!calculated) {
