@@ -198,6 +198,12 @@ TEST_F(RadianceCheck, BeginsALogOfItsOwn) {
     EXPECT_NE(log.find("  Teste do Radiance: OK - "), std::string::npos) << log;
 }
 
+TEST_F(RadianceCheck, HasTheMarkInTheDarkInterface) {
+    Open(true);
+    Check();
+    EXPECT_EQ(LastItem(11).icon, 10203);
+}
+
 TEST_F(RadianceCheck, IsReportedWhereTheHostDoesNotShowIt) {
     Workbench::FailCall("RunDialog", 1, Host::BadId);
     CheckRadianceInstallation();

@@ -1,4 +1,5 @@
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "AddOn/AddOnSession.hpp"
@@ -76,6 +77,43 @@ TEST(CommandTable, HoldsEveryCommandOfTheMenuOnce) {
     EXPECT_EQ(items, CommandTable().size());
     for (std::size_t i = 1; i < CommandTable().size(); ++i) {
         EXPECT_LT(CommandTable()[i - 1].number, CommandTable()[i].number);
+    }
+}
+
+TEST(CommandTable, NamesTheCommandsAsTheMenuTellsThem) {
+    struct Case {
+        std::int16_t number;
+        std::string_view name;
+    };
+    const Case cases[] = {
+        {32500, "Diagnostico: luminarias selecionadas"},
+        {32501, "Diagnostico: criar camada de teste"},
+        {32502, "Verificar instalacao do Radiance..."},
+        {32503, "Adicionar fotometria IES ao objeto selecionado..."},
+        {32504, "Importar luminaria (SketchUp + IES)..."},
+        {32505, "Calcular iluminacao (Zonas selecionadas ou do pavimento)"},
+        {32506, "Diagnostico: coordenadas do corte ativo"},
+        {32507, "Calcular plano vertical (Corte ativo)"},
+        {32508, "Configuracoes do motor de simulacao..."},
+        {32509, "Calcular paredes (Elevacao Interior ativa)"},
+        {32510, "Tabela UGR das luminarias selecionadas"},
+        {32511, "Inserir observador UGR (posicao de trabalho)"},
+        {32512, "Quadro de luminarias (Folha de Trabalho)"},
+        {32513, "Converter polilinha / spline em luminaria linear (fita de LED)..."},
+        {32514, "Embutir operador de corte na luminaria (Laje selecionada)"},
+        {32515, "Cotas de luminotecnico..."},
+        {32516, "Simbolos em planta..."},
+        {32517, "Circuitos e interruptores..."},
+        {32518, "Gerar vistas (Simulacao e Projeto)"},
+        {32519, "Exportar luminarias selecionadas para o catalogo..."},
+        {32520, "Catalogo online de luminarias..."},
+        {32521, "Distribuir luminarias na Zona..."},
+        {32523, "Mostrar / ocultar a barra de ferramentas"},
+    };
+    ASSERT_EQ(CommandTable().size(), std::size(cases));
+    for (std::size_t i = 0; i < std::size(cases); ++i) {
+        EXPECT_EQ(CommandTable()[i].number, cases[i].number);
+        EXPECT_EQ(CommandTable()[i].name, cases[i].name);
     }
 }
 

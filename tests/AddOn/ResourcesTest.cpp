@@ -97,6 +97,11 @@ TEST(MenuResources, HaveTheIconsThatTheyName) {
     EXPECT_TRUE(OwnResources().icons.contains(ResourceIds::LightMarkIcon));
 }
 
+TEST(AddOnResources, TellWhatTheAddOnIs) {
+    EXPECT_TRUE(OwnResources().identities.contains(32500));
+    EXPECT_EQ(Strings(ResourceIds::AddOnStrings).size(), 2U);
+}
+
 TEST(ToolbarResources, HaveTheButtonsTheirIconsAndTooltips) {
     std::set<int> buttonItems;
     for (const Commands::ToolbarButton& button : Commands::ToolbarButtons()) {
