@@ -82,22 +82,38 @@ Advance AdvanceOf(char32_t code) {
     return code == U'\u2014' || code == U'\u2026' ? Advance{138, 138} : Em;
 }
 
-/// Takes the next character off the front; a byte that begins none counts as one.
+constexpr char32_t Replacement = U'\ufffd'; // drawn where bytes make no character
+
+/// How many bytes go on a character that begins with `lead`; none for a byte that begins none.
+std::size_t FollowingBytes(unsigned char lead) {
+    if (lead >= 0xF0U) {
+        return 3;
+    }
+    if (lead >= 0xE0U) {
+        return 2;
+    }
+    return lead >= 0xC0U ? 1 : 0;
+}
+
+/// Takes the next character off the front.
 char32_t TakeCharacter(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
     text.remove_prefix(1);
     if (lead < 0x80U) {
         return lead;
     }
-    std::size_t following = lead >= 0xF0U ? 3 : lead >= 0xE0U ? 2 : lead >= 0xC0U ? 1 : 0;
-    char32_t code = lead & (0x3FU >> following);
-    while (following > 0 && !text.empty() &&
+    std::size_t missing = FollowingBytes(lead);
+    if (missing == 0) {
+        return Replacement;
+    }
+    char32_t code = lead & (0x3FU >> missing);
+    while (missing > 0 && !text.empty() &&
            (static_cast<unsigned char>(text.front()) & 0xC0U) == 0x80U) {
         code = code << 6U | (static_cast<unsigned char>(text.front()) & 0x3FU);
         text.remove_prefix(1);
-        --following;
+        --missing;
     }
-    return code;
+    return missing == 0 ? code : Replacement;
 }
 
 } // namespace

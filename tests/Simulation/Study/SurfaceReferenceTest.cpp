@@ -23,6 +23,42 @@ std::vector<VerificationRow> RowsOf(const std::vector<Plane>& planes,
     return SurfaceRows(built, result, 1, task);
 }
 
+PointStatistics Joined(const std::vector<Plane>& planes, PlaneKind kind) {
+    StudyScene built;
+    SimulationResult result;
+    for (const Plane& plane : planes) {
+        built.planes.push_back({plane.zone, plane.kind, 0});
+        result.zones.push_back({"", {}, plane.statistics});
+    }
+    return PlaneStatistics(built, result, 1, kind);
+}
+
+TEST(PlaneStatistics, WeighMeansByPointsAndKeepTheExtremes) {
+    const std::vector<Plane> planes = {{1, PlaneKind::Wall, {100, 25, 5, 40, 0.2}},
+                                       {1, PlaneKind::Wall, {300, 58, 20, 70, 0.34}},
+                                       {0, PlaneKind::Wall, {300, 9, 1, 900, 0.1}}};
+    const PointStatistics walls = Joined(planes, PlaneKind::Wall);
+    EXPECT_EQ(walls, (PointStatistics{400, 49.75, 5, 70, 5 / 49.75}));
+    EXPECT_EQ(Joined(planes, PlaneKind::Floor), PointStatistics());
+}
+
+TEST(PlaneStatistics, ArePlainlyThoseOfASinglePlane) {
+    const PointStatistics plane = {9, 500, 400, 600, 0.8};
+    EXPECT_EQ(Joined({{1, PlaneKind::WorkPlane, plane}}, PlaneKind::WorkPlane), plane);
+}
+
+TEST(PlaneStatistics, PassOverPlanesWithoutPoints) {
+    const PointStatistics wall = {9, 500, 400, 600, 0.8};
+    EXPECT_EQ(Joined({{1, PlaneKind::Wall, {}}, {1, PlaneKind::Wall, wall}}, PlaneKind::Wall),
+              wall);
+}
+
+TEST(PlaneStatistics, HaveNoUniformityInTheDark) {
+    const PointStatistics dark = {4, 0, 0, 0, 0};
+    EXPECT_EQ(Joined({{1, PlaneKind::Wall, dark}, {1, PlaneKind::Wall, dark}}, PlaneKind::Wall),
+              (PointStatistics{8, 0, 0, 0, 0}));
+}
+
 TEST(SurfaceRows, CompareCeilingAndWallsAsPrinted) {
     // Two walls of 100 and 300 points: their mean is 25 / 4 + 3 x 58 / 4 = 49.75.
     const std::vector<VerificationRow> rows =
