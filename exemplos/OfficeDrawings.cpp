@@ -160,18 +160,19 @@ Host::Contour IsoRing(double halfWidth, double halfDepth) {
     return Outline(std::move(vertices));
 }
 
-void AddEarlierBands(ProjectBuilder& builder, const std::string& brand) {
+// What an earlier version of the add-on drew, on layers with the names that it gave them.
+void AddEarlierBands(ProjectBuilder& builder) {
     const Host::Contour inner = IsoRing(1.1, 0.75);
     const Host::Contour outer = IsoRing(1.9, 1.35);
     const Host::Contour room = Rectangle({7.05, 6.01}, {11.95, 9.9});
-    const Drawer bands{builder, {LayerOf(builder, brand + " - Cor falsa"), 0}, {}};
+    const Drawer bands{builder, {LayerOf(builder, "Merivane - Cor falsa"), 0}, {}};
     bands.Hatch({room, outer}, {0.75, 0.88, 0.97});
     bands.Hatch({outer, inner}, {0.72, 0.90, 0.72});
     bands.Hatch({inner}, {0.99, 0.93, 0.62});
 }
 
-void AddEarlierCurves(ProjectBuilder& builder, const std::string& brand) {
-    const Drawer curves{builder, {LayerOf(builder, brand + " - Isolux"), 0}, {}};
+void AddEarlierCurves(ProjectBuilder& builder) {
+    const Drawer curves{builder, {LayerOf(builder, "Merivane - Isolux"), 0}, {}};
     curves.Ring(IsoRing(1.1, 0.75), true, 4);
     curves.Label("750 lx", {9.5, 8.75}, Host::TextAnchor::LeftBottom, 2.0, 4);
     curves.Ring(IsoRing(1.9, 1.35), true, 4);
@@ -273,9 +274,8 @@ void AddSection(ProjectBuilder& builder) {
 void AddOfficeDrawings(ProjectBuilder& builder) {
     AddAxes(builder);
     AddDoorSwings(builder);
-    AddEarlierBands(builder, "Merivane");
-    AddEarlierCurves(builder, "Merivane");
-    AddEarlierCurves(builder, "Vantoro");
+    AddEarlierBands(builder);
+    AddEarlierCurves(builder);
     AddEarlierLegend(builder);
     AddEarlierMap(builder);
     AddWorksheet(builder);

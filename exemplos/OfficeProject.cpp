@@ -20,7 +20,7 @@ void AddAttributes(ProjectBuilder& builder) {
     for (const char* name :
          {"Paredes", "Lajes", "Forros", "Estrutura", "Esquadrias", "Escadas e guarda-corpos",
           "Cobertura", "Terreno", "Mobiliário", "Luminárias", "Zonas", "Eixos", "Merivane - Isolux",
-          "Merivane - Cor falsa", "Vantoro - Isolux", "Vantoro - Cor falsa", "Vantoro - Legenda",
+          "Merivane - Cor falsa", "Vantoro - Legenda",
           "Vantoro - Cor falsa 3D plano de trabalho"}) {
         LayerOf(builder, name);
     }
