@@ -9,6 +9,7 @@
 #include "Host/Types.hpp"
 #include "Simulation/CalculationSettings.hpp"
 #include "Simulation/LevelList.hpp"
+#include "Simulation/PolygonGeometry.hpp"
 #include "Simulation/Study/ZoneDrawing.hpp"
 
 /// Results of a calculation as ordinary elements of the floor plan.
@@ -58,6 +59,8 @@ struct ZonePlacement {
     const Simulation::ZoneDrawing* drawing = nullptr;
     std::int32_t floorIndex = 0;
     Simulation::Point2D summary; ///< upper left corner [m]
+    /// Labels of other Zones, which those of this one's curves keep clear of [m].
+    std::vector<Simulation::Bounds2D> otherLabels;
 };
 
 /// Where summaries and legends of one floor go, clear of the drawing and of each other at the

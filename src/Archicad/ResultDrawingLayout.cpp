@@ -7,6 +7,7 @@
 #include "Archicad/ResultElements.hpp"
 #include "Archicad/ResultLabels.hpp"
 #include "Archicad/ResultLegend.hpp"
+#include "Host/Stories.hpp"
 #include "Simulation/PolygonGeometry.hpp"
 #include "Simulation/Study/BlockPlacement.hpp"
 #include "Simulation/Study/ZoneSummary.hpp"
@@ -61,7 +62,35 @@ bool KeepsTextsOff(ElementType type) {
     return type != ElementType::Mesh && type != ElementType::Hotspot;
 }
 
-void AddElement(std::vector<Bounds2D>& boxes, const Host::Element& element) {
+bool IsMarker(ElementType type) {
+    return type == ElementType::CutPlane || type == ElementType::Elevation ||
+           type == ElementType::InteriorElevation;
+}
+
+/// The scale of the results, and that in which the host measures texts.
+struct Scales {
+    double results = 100.0;
+    double host = 100.0;
+};
+
+// A text is as large as the paper's scale makes it; the names of markers stand beyond their lines.
+Bounds2D InScale(const Host::Element& element, Bounds2D box, const Scales& scales) {
+    constexpr double markerReach = 10.0; // [mm on paper]
+    if (const auto* const text = std::get_if<Host::TextData>(&element.data)) {
+        const double factor = scales.results / scales.host;
+        const auto from = [factor](double origin, double place) {
+            return origin + factor * (place - origin);
+        };
+        return {{from(text->position.x, box.minimum.x), from(text->position.y, box.minimum.y)},
+                {from(text->position.x, box.maximum.x), from(text->position.y, box.maximum.y)}};
+    }
+    const double reach =
+        IsMarker(element.header.type) ? markerReach * PaperMillimetre(scales.results) : 0.0;
+    return {{box.minimum.x - reach, box.minimum.y - reach},
+            {box.maximum.x + reach, box.maximum.y + reach}};
+}
+
+void AddElement(std::vector<Bounds2D>& boxes, const Host::Element& element, const Scales& scales) {
     const Host::Guid& guid = element.header.guid;
     if (const auto* const line = std::get_if<Host::LineData>(&element.data)) {
         AddLine(boxes, line->begin, line->end);
@@ -74,34 +103,49 @@ void AddElement(std::vector<Bounds2D>& boxes, const Host::Element& element) {
     Host::Coordinate3D lowest;
     Host::Coordinate3D highest;
     if (Host::GetBounds(guid, lowest, highest) == Host::NoError) {
-        boxes.push_back({{lowest.x, lowest.y}, {highest.x, highest.y}});
+        boxes.push_back(InScale(element, {{lowest.x, lowest.y}, {highest.x, highest.y}}, scales));
     }
 }
 
 // What stands on the floor and is seen. What can't be read keeps nothing off.
-void AddFloorElements(std::vector<Bounds2D>& boxes, std::int32_t floorIndex) {
+void AddFloorElements(std::vector<Bounds2D>& boxes, std::int32_t floorIndex, double scale) {
+    Scales scales{scale, 0.0};
+    if (Host::GetDrawingScale(scales.host) != Host::NoError || !(scales.host > 0.0)) {
+        scales.host = scale;
+    }
     std::vector<Host::Guid> guids;
     Host::ListElements(ElementType::Any, Host::ElementFilter::OnVisibleLayer, guids);
     for (const Host::Guid& guid : guids) {
         Host::Element element;
         if (Host::GetElement(guid, element) == Host::NoError &&
             element.header.floorIndex == floorIndex && KeepsTextsOff(element.header.type)) {
-            AddElement(boxes, element);
+            AddElement(boxes, element, scales);
         }
     }
 }
 
-// Labels near a wall reach beyond it; values do by less than the gap.
-void AddLabels(std::vector<Bounds2D>& boxes, const ZoneDrawing& drawing,
-               const DrawingOptions& options, double millimetre) {
-    if (options.curves && options.curveLabels) {
-        for (const PlacedText& text : PlaceCurveTexts(drawing.curves, millimetre).texts) {
-            boxes.push_back(TextBounds(text, millimetre));
+// The limits' labels have their places; curve labels come Zone by Zone, each clear of what stands.
+std::vector<Bounds2D> PlaceLabels(std::vector<ZonePlacement>& zones, const DrawingOptions& options,
+                                  double millimetre) {
+    std::vector<Bounds2D> placed;
+    for (const ZonePlacement& zone : zones) {
+        if (const std::optional<PlacedText> text =
+                PlaceOutlineText(zone.drawing->taskOutline, millimetre)) {
+            placed.push_back(TextBounds(*text, millimetre));
         }
     }
-    if (const std::optional<PlacedText> text = PlaceOutlineText(drawing.taskOutline, millimetre)) {
-        boxes.push_back(TextBounds(*text, millimetre));
+    for (ZonePlacement& zone : zones) {
+        zone.otherLabels = placed;
+        if (options.curves && options.curveLabels) {
+            const LabelSpace space =
+                LabelSpaceOf(*zone.drawing, zone.otherLabels, options, millimetre);
+            for (const PlacedText& text :
+                 PlaceCurveTexts(zone.drawing->curves, space, millimetre).texts) {
+                placed.push_back(TextBounds(text, millimetre));
+            }
+        }
     }
+    return placed;
 }
 
 void Include(std::optional<Bounds2D>& all, const Bounds2D& bounds) {
@@ -117,8 +161,13 @@ void Include(std::optional<Bounds2D>& all, const Bounds2D& bounds) {
 FloorLayout LayOutFloor(std::int32_t floorIndex, const std::vector<const ZoneDrawing*>& drawings,
                         const DrawingOptions& options, const ResultStructure& structure) {
     const double millimetre = PaperMillimetre(structure.scale);
+    FloorLayout layout;
+    layout.floorIndex = floorIndex;
+    for (const ZoneDrawing* const drawing : drawings) {
+        layout.zones.push_back({drawing, floorIndex, {}, {}});
+    }
+    std::vector<Bounds2D> occupied = PlaceLabels(layout.zones, options, millimetre);
     std::vector<Simulation::BlockRequest> blocks;
-    std::vector<Bounds2D> occupied;
     std::optional<Bounds2D> all;
     for (const ZoneDrawing* const drawing : drawings) {
         const Bounds2D bounds = Simulation::OuterBounds(drawing->zone.outline);
@@ -126,20 +175,17 @@ FloorLayout LayOutFloor(std::int32_t floorIndex, const std::vector<const ZoneDra
             Simulation::MeasureSummary(Simulation::BuildZoneSummary(*drawing));
         blocks.push_back({bounds, extent.width * millimetre, extent.height * millimetre});
         occupied.push_back(bounds);
-        AddLabels(occupied, *drawing, options, millimetre);
         Include(all, bounds);
     }
-    AddFloorElements(occupied, floorIndex);
+    AddFloorElements(occupied, floorIndex, structure.scale);
     if (all && HasLegend(options, structure)) {
         const LegendExtent extent = MeasureLegend(options.levels);
         blocks.push_back({*all, extent.width * millimetre, extent.height * millimetre});
     }
     const std::vector<Point2D> corners =
         Simulation::PlaceBlocks(blocks, occupied, BlockGap * millimetre);
-    FloorLayout layout;
-    layout.floorIndex = floorIndex;
-    for (std::size_t i = 0; i < drawings.size(); ++i) {
-        layout.zones.push_back({drawings[i], floorIndex, corners[i]});
+    for (std::size_t i = 0; i < layout.zones.size(); ++i) {
+        layout.zones[i].summary = corners[i];
     }
     layout.legend = corners.size() > drawings.size() ? corners.back() : Point2D();
     return layout;

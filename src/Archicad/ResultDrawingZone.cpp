@@ -21,6 +21,7 @@ using Simulation::ZoneDrawing;
 
 /// What the steps of a Zone share.
 struct ZoneRun {
+    const ZonePlacement& zone;
     const ZoneDrawing& drawing;
     const DrawingOptions& options;
     const ResultStructure& structure;
@@ -77,7 +78,9 @@ void DrawCurves(ZoneRun& run) {
     if (!run.options.curveLabels) {
         return;
     }
-    const CurveTexts labels = PlaceCurveTexts(drawn, MillimetreOf(run));
+    const CurveTexts labels = PlaceCurveTexts(
+        drawn, LabelSpaceOf(run.drawing, run.zone.otherLabels, run.options, MillimetreOf(run)),
+        MillimetreOf(run));
     for (const PlacedText& text : labels.texts) {
         DrawText(run.sheet, run.structure.layers.isolux, text);
     }
@@ -87,8 +90,7 @@ void DrawCurves(ZoneRun& run) {
 }
 
 void DrawValues(ZoneRun& run) {
-    for (const PlacedText& text :
-         PlaceValueTexts(run.drawing, run.options.valueSpacingX, run.options.valueSpacingY)) {
+    for (const PlacedText& text : PlaceValueTexts(run.drawing, run.options)) {
         DrawText(run.sheet, run.structure.layers.values, text);
     }
 }
@@ -114,11 +116,8 @@ void DrawTaskLimit(ZoneRun& run) {
 
 void DrawZone(const ZonePlacement& zone, const DrawingOptions& options,
               const ResultStructure& structure, std::vector<std::string>& warnings) {
-    ZoneRun run{*zone.drawing,
-                options,
-                structure,
-                warnings,
-                {static_cast<std::int16_t>(zone.floorIndex), 0}};
+    ZoneRun run{zone,      *zone.drawing, options,
+                structure, warnings,      {static_cast<std::int16_t>(zone.floorIndex), 0}};
     if (options.fills) {
         DrawBands(run);
     }

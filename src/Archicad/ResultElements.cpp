@@ -50,19 +50,12 @@ std::int32_t PenOf(Simulation::SummaryInk ink) {
     }
 }
 
-// A name can hold line ends; a paragraph of the host cannot.
-std::string WithoutLineEnds(std::string text) {
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    std::replace(text.begin(), text.end(), '\r', ' ');
-    return text;
-}
-
 Host::TextParagraph ParagraphOf(const Simulation::SummaryParagraph& source) {
     Host::TextParagraph paragraph;
     paragraph.tabs = source.tabs;
     for (const Simulation::SummaryText& text : source.texts) {
         if (!text.text.empty()) {
-            paragraph.text += WithoutLineEnds(text.text);
+            paragraph.text += text.text;
             paragraph.stretches.push_back(
                 {CountCharacters(text.text), PenOf(text.ink), text.height, text.bold});
         }
@@ -120,6 +113,7 @@ bool DrawSummary(ResultSheet& sheet, AttributeIndex layer, Point2D corner,
     data.anchor = Host::TextAnchor::LeftTop;
     data.size = Simulation::SummaryText().height;
     data.pen = ResultPen;
+    data.width = Simulation::MeasureSummary(paragraphs).width; // longer lines are broken there
     Host::ElementMemo memo;
     for (const Simulation::SummaryParagraph& paragraph : paragraphs) {
         memo.paragraphs.push_back(ParagraphOf(paragraph));

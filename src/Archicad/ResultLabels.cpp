@@ -13,6 +13,7 @@ namespace Merivane::Archicad {
 
 namespace {
 
+using Simulation::Bounds2D;
 using Simulation::IsoCurve;
 using Simulation::Point2D;
 
@@ -38,18 +39,55 @@ std::int32_t NodeStep(double spacing, double step) {
     return nodes >= 1.0 ? static_cast<std::int32_t>(std::min(nodes, LargestStep)) : 1;
 }
 
+PlacedText CurveText(const IsoCurve& curve, Point2D position) {
+    return {Simulation::CurveLabelText(curve.level), position, CurveTextHeight,
+            Host::TextAnchor::Middle};
+}
+
+bool IsClear(const std::vector<Bounds2D>& boxes, const Bounds2D& box) {
+    return std::none_of(boxes.begin(), boxes.end(), [&box](const Bounds2D& other) {
+        return box.minimum.x < other.maximum.x && other.minimum.x < box.maximum.x &&
+               box.minimum.y < other.maximum.y && other.minimum.y < box.maximum.y;
+    });
+}
+
+bool IsInside(const Simulation::Polygon2D& zone, const Bounds2D& box) {
+    return Simulation::IsInsidePolygon(zone, box.minimum) &&
+           Simulation::IsInsidePolygon(zone, box.maximum) &&
+           Simulation::IsInsidePolygon(zone, {box.minimum.x, box.maximum.y}) &&
+           Simulation::IsInsidePolygon(zone, {box.maximum.x, box.minimum.y});
+}
+
+// A number on a wall is hard to read, one on a number harder still.
+std::vector<Simulation::LabelFilter> WishesFor(const LabelSpace& space, double millimetre) {
+    const auto boundsAt = [millimetre](const IsoCurve& curve, Point2D point) {
+        return TextBounds(CurveText(curve, point), millimetre);
+    };
+    const auto clearOfTexts = [&space, boundsAt](const IsoCurve& curve, Point2D point) {
+        return IsClear(space.texts, boundsAt(curve, point));
+    };
+    const auto insideToo = [&space, boundsAt, clearOfTexts](const IsoCurve& curve, Point2D point) {
+        return clearOfTexts(curve, point) &&
+               (space.zone == nullptr || IsInside(*space.zone, boundsAt(curve, point)));
+    };
+    const auto clearOfValuesToo = [&space, boundsAt, insideToo](const IsoCurve& curve,
+                                                                Point2D point) {
+        return insideToo(curve, point) && IsClear(space.values, boundsAt(curve, point));
+    };
+    return {clearOfValuesToo, insideToo, clearOfTexts};
+}
+
 } // namespace
 
-CurveTexts PlaceCurveTexts(const std::vector<IsoCurve>& curves, double millimetre) {
-    const Simulation::CurveLabels labels =
-        Simulation::PlaceCurveLabels(curves, WidestLabel(curves) * millimetre);
+CurveTexts PlaceCurveTexts(const std::vector<IsoCurve>& curves, const LabelSpace& space,
+                           double millimetre) {
+    const Simulation::CurveLabels labels = Simulation::PlaceCurveLabels(
+        curves, WidestLabel(curves) * millimetre, WishesFor(space, millimetre));
     CurveTexts placed;
     placed.unlabelled = labels.unlabelled;
     for (std::size_t k = 0; k < curves.size(); ++k) {
         if (labels.positions[k]) {
-            placed.texts.push_back({Simulation::CurveLabelText(curves[k].level),
-                                    *labels.positions[k], CurveTextHeight,
-                                    Host::TextAnchor::Middle});
+            placed.texts.push_back(CurveText(curves[k], *labels.positions[k]));
         }
     }
     return placed;
@@ -67,11 +105,11 @@ std::optional<PlacedText> PlaceOutlineText(const std::vector<IsoCurve>& outline,
                       Host::TextAnchor::LeftBottom};
 }
 
-std::vector<PlacedText> PlaceValueTexts(const Simulation::ZoneDrawing& drawing, double spacingX,
-                                        double spacingY) {
+std::vector<PlacedText> PlaceValueTexts(const Simulation::ZoneDrawing& drawing,
+                                        const DrawingOptions& options) {
     const Simulation::CalculationGrid& grid = drawing.grid;
-    const std::int32_t stepX = NodeStep(spacingX, grid.stepX);
-    const std::int32_t stepY = NodeStep(spacingY, grid.stepY);
+    const std::int32_t stepX = NodeStep(options.valueSpacingX, grid.stepX);
+    const std::int32_t stepY = NodeStep(options.valueSpacingY, grid.stepY);
     std::vector<PlacedText> texts;
     for (std::int32_t j = (grid.rows - 1) % stepY / 2; j < grid.rows; j += stepY) {
         for (std::int32_t i = (grid.columns - 1) % stepX / 2; i < grid.columns; i += stepX) {
@@ -88,7 +126,23 @@ std::vector<PlacedText> PlaceValueTexts(const Simulation::ZoneDrawing& drawing, 
     return texts;
 }
 
-Simulation::Bounds2D TextBounds(const PlacedText& text, double millimetre) {
+LabelSpace LabelSpaceOf(const Simulation::ZoneDrawing& drawing, const std::vector<Bounds2D>& others,
+                        const DrawingOptions& options, double millimetre) {
+    LabelSpace space;
+    space.zone = &drawing.zone.outline;
+    space.texts = others;
+    if (const std::optional<PlacedText> text = PlaceOutlineText(drawing.taskOutline, millimetre)) {
+        space.texts.push_back(TextBounds(*text, millimetre));
+    }
+    if (options.values) {
+        for (const PlacedText& text : PlaceValueTexts(drawing, options)) {
+            space.values.push_back(TextBounds(text, millimetre));
+        }
+    }
+    return space;
+}
+
+Bounds2D TextBounds(const PlacedText& text, double millimetre) {
     const double width = Simulation::EstimateTextWidth(text.text, text.height) * millimetre;
     const double height = text.height * millimetre;
     const auto anchor = static_cast<std::int32_t>(text.anchor);

@@ -24,15 +24,12 @@ double DistanceToNearest(const std::vector<Point2D>& placed, Point2D point, doub
 }
 
 std::optional<Point2D> ChoosePoint(const IsoCurve& curve, const std::vector<Point2D>& placed,
-                                   double leastDistance) {
-    if (curve.points.size() < FewestPoints) {
-        return std::nullopt;
-    }
+                                   double leastDistance, const LabelFilter& isWanted) {
     Point2D best;
     double farthest = -1.0;
     for (const Point2D& point : curve.points) {
         const double distance = DistanceToNearest(placed, point, farthest);
-        if (distance > farthest) {
+        if (distance > farthest && isWanted(curve, point)) {
             farthest = distance;
             best = point;
         }
@@ -40,14 +37,30 @@ std::optional<Point2D> ChoosePoint(const IsoCurve& curve, const std::vector<Poin
     return farthest < leastDistance ? std::nullopt : std::optional<Point2D>(best);
 }
 
+std::optional<Point2D> ChooseByWishes(const IsoCurve& curve, const std::vector<Point2D>& placed,
+                                      double leastDistance,
+                                      const std::vector<LabelFilter>& wishes) {
+    std::optional<Point2D> place;
+    if (curve.points.size() < FewestPoints) {
+        return place;
+    }
+    for (auto wish = wishes.begin(); wish != wishes.end() && !place; ++wish) {
+        place = ChoosePoint(curve, placed, leastDistance, *wish);
+    }
+    return place;
+}
+
 } // namespace
 
-CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves, double labelWidth) {
+CurveLabels PlaceCurveLabels(const std::vector<IsoCurve>& curves, double labelWidth,
+                             const std::vector<LabelFilter>& wishes) {
+    const std::vector<LabelFilter> anywhere = {[](const IsoCurve&, Point2D) { return true; }};
     const double leastDistance = std::max(LeastDistance, labelWidth);
     CurveLabels labels;
     std::vector<Point2D> placed;
     for (const IsoCurve& curve : curves) {
-        const std::optional<Point2D> position = ChoosePoint(curve, placed, leastDistance);
+        const std::optional<Point2D> position =
+            ChooseByWishes(curve, placed, leastDistance, wishes.empty() ? anywhere : wishes);
         if (position) {
             placed.push_back(*position);
         } else {

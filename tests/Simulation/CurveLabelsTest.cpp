@@ -83,6 +83,26 @@ TEST(PlaceCurveLabels, TheFirstLabelOfAZoneHasRoomHoweverWideItIs) {
     EXPECT_EQ(PlaceCurveLabels({Line({0, 0}, 1, 6)}, 1e8).positions[0], (Point2D{0, 0}));
 }
 
+TEST(PlaceCurveLabels, FollowsTheFirstWishThatACurveHasAPlaceFor) {
+    const LabelFilter beyondThree = [](const IsoCurve&, Point2D point) { return point.x > 3; };
+    const LabelFilter beyondOne = [](const IsoCurve&, Point2D point) { return point.x > 1; };
+    const std::vector<IsoCurve> curves = {Line({0, 0}, 1, 6), Line({0, 9}, 0.5, 6),
+                                          Line({0, 18}, 0.1, 6)};
+    const CurveLabels labels = PlaceCurveLabels(curves, 0.0, {beyondThree, beyondOne});
+    EXPECT_EQ(labels.positions[0], (Point2D{4, 0}));
+    EXPECT_EQ(labels.positions[1], (Point2D{1.5, 9})); // the farthest that the second one allows
+    EXPECT_EQ(labels.positions[2], std::nullopt);
+    EXPECT_EQ(labels.unlabelled, 1U);
+}
+
+TEST(PlaceCurveLabels, AWishedPlaceTooNearToALabelIsLeftForTheNextWish) {
+    const LabelFilter atStart = [](const IsoCurve&, Point2D point) { return point.x == 0; };
+    const LabelFilter anywhere = [](const IsoCurve&, Point2D) { return true; };
+    const std::vector<IsoCurve> curves = {Line({0, 0}, 1, 6), Line({0, 0.3}, 1, 6)};
+    EXPECT_EQ(PlaceCurveLabels(curves, 0.0, {atStart, anywhere}).positions[1], (Point2D{5, 0.3}));
+    EXPECT_EQ(PlaceCurveLabels(curves, 0.0, {atStart}).positions[1], std::nullopt);
+}
+
 TEST(PlaceCurveLabels, PlacesAsLookingAtEveryPairDoes) {
     std::mt19937 random(11);
     std::vector<IsoCurve> curves(200);

@@ -117,6 +117,9 @@ void JoinPieces(Line& line) {
 void BreakIntoLines(const TextParagraph& paragraph, const Host::TextData& text,
                     std::vector<Line>& lines) {
     lines.push_back({});
+    if (paragraph.text.empty() && !paragraph.stretches.empty()) {
+        lines.back().size = paragraph.stretches.front().size;
+    }
     double x = 0.0;
     for (Piece& piece : CutParagraph(paragraph)) {
         piece.width = Measure(piece.text, piece.look);
