@@ -75,8 +75,9 @@ void Painter::operator()(const Arc& arc) const {
 }
 
 void Painter::operator()(const TextRun& text) const {
-    const Point origin = TextOrigin(text, MeasureText(text.text, text.height, text.weight));
-    const LayoutPointer layout = MakeTextLayout(text.text, text.height, text.weight);
+    const Point origin =
+        TextOrigin(text, MeasureText(text.text, text.height, text.weight, text.face));
+    const LayoutPointer layout = MakeTextLayout(text.text, text.height, text.weight, text.face);
     cairo_save(context);
     cairo_translate(context, origin.x, pageHeight - origin.y);
     cairo_rotate(context, -text.rotation * std::numbers::pi / 180.0);

@@ -62,6 +62,9 @@ struct Arc {
 
 enum class TextWeight { Normal, Bold };
 
+/// Letters of their own widths, or all of one width, for records in columns.
+enum class TextFace { Proportional, Monospaced };
+
 /// Which point of a text stands at its position. Vertically `Base` is the line that letters stand
 /// on, `Middle` half the height of a capital above it, `Top` the head of a capital.
 enum class HorizontalAnchor { Left, Center, Right };
@@ -78,6 +81,7 @@ struct TextRun {
     double rotation = 0.0; ///< counter-clockwise about the position [deg]
     Color color;
     double halo = 0.0; ///< width of the white border that keeps the text off what is below [mm]
+    TextFace face = TextFace::Proportional;
 };
 
 using Element = std::variant<Area, Polyline, Arc, TextRun>;

@@ -1,5 +1,6 @@
 #include "Drawing/PdfWriter.hpp"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cmath>
@@ -50,25 +51,63 @@ std::string IsoTime(std::int64_t secondsSince1970) {
     return text.data();
 }
 
+bool CheckPages(const std::vector<DisplayList>& pages, std::string& error) {
+    if (pages.empty()) {
+        error = "O documento precisa de pelo menos uma folha.";
+        return false;
+    }
+    return std::all_of(pages.begin(), pages.end(),
+                       [&error](const DisplayList& page) { return CheckDisplayList(page, error); });
+}
+
+bool PaintPages(const std::vector<DisplayList>& pages, cairo_surface_t* surface,
+                std::string& error) {
+    for (const DisplayList& page : pages) {
+        cairo_pdf_surface_set_size(surface, page.width * PointsPerMillimetre,
+                                   page.height * PointsPerMillimetre);
+        if (!PaintDisplayList(page, surface, PointsPerMillimetre, TextForm::Letters, error)) {
+            return false;
+        }
+        cairo_surface_show_page(surface);
+    }
+    return true;
+}
+
+void AddBookmarks(const PdfBook& book, cairo_surface_t* surface) {
+    int parent = CAIRO_PDF_OUTLINE_ROOT;
+    for (const PdfBookmark& bookmark : book.bookmarks) {
+        const std::string target = "page=" + std::to_string(bookmark.page + 1);
+        const int entry = cairo_pdf_surface_add_outline(
+            surface, bookmark.underLast ? parent : CAIRO_PDF_OUTLINE_ROOT,
+            CleanText(bookmark.title).c_str(), target.c_str(), CAIRO_PDF_OUTLINE_FLAG_OPEN);
+        parent = bookmark.underLast ? parent : entry;
+    }
+}
+
 } // namespace
 
 bool WritePdf(const DisplayList& list, std::string& bytes, std::string& error,
               const PdfOptions& options) {
-    if (!CheckDisplayList(list, error)) {
+    return WritePdfBook({list.title, {list}, {}}, bytes, error, options);
+}
+
+bool WritePdfBook(const PdfBook& book, std::string& bytes, std::string& error,
+                  const PdfOptions& options) {
+    if (!CheckPages(book.pages, error)) {
         return false;
     }
     std::string written;
     const SurfacePointer surface(cairo_pdf_surface_create_for_stream(
-        AppendToString, &written, list.width * PointsPerMillimetre,
-        list.height * PointsPerMillimetre));
+        AppendToString, &written, book.pages.front().width * PointsPerMillimetre,
+        book.pages.front().height * PointsPerMillimetre));
     cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_TITLE,
-                                   CleanText(list.title).c_str());
+                                   CleanText(book.title).c_str());
     cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE,
                                    IsoTime(CreationTime(options)).c_str());
-    if (!PaintDisplayList(list, surface.get(), PointsPerMillimetre, TextForm::Letters, error)) {
+    if (!PaintPages(book.pages, surface.get(), error)) {
         return false;
     }
-    cairo_surface_show_page(surface.get());
+    AddBookmarks(book, surface.get());
     cairo_surface_finish(surface.get());
     const cairo_status_t status = cairo_surface_status(surface.get());
     if (status != CAIRO_STATUS_SUCCESS) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "Drawing/DisplayList.hpp"
 
@@ -22,5 +24,23 @@ struct PdfOptions {
 /// the drawing library fails; `bytes` is then untouched.
 bool WritePdf(const DisplayList& list, std::string& bytes, std::string& error,
               const PdfOptions& options = {});
+
+/// An entry of the outline that readers show beside a document.
+struct PdfBookmark {
+    std::string title;
+    std::size_t page = 0;   ///< index of the page that it leads to
+    bool underLast = false; ///< stands below the last entry without this
+};
+
+/// Several pages, each of its own size, as one document.
+struct PdfBook {
+    std::string title;
+    std::vector<DisplayList> pages; ///< at least one
+    std::vector<PdfBookmark> bookmarks;
+};
+
+/// Writes a book as a PDF document; otherwise as `WritePdf`. A book without pages is refused.
+bool WritePdfBook(const PdfBook& book, std::string& bytes, std::string& error,
+                  const PdfOptions& options = {});
 
 } // namespace Merivane::Drawing

@@ -159,7 +159,7 @@ void SvgPainter::operator()(const Arc& arc) const {
 }
 
 void SvgPainter::operator()(const TextRun& text) const {
-    const TextSize size = MeasureText(text.text, text.height, text.weight);
+    const TextSize size = MeasureText(text.text, text.height, text.weight, text.face);
     const Point origin = TextOrigin(text, size);
     std::string attributes = Attribute("x", origin.x) + Attribute("y", pageHeight - origin.y) +
                              Attribute("font-size", text.height * EmPerCapital);
@@ -169,6 +169,10 @@ void SvgPainter::operator()(const TextRun& text) const {
     }
     if (text.weight == TextWeight::Bold) {
         attributes += Attribute("font-weight", "bold");
+    }
+    if (text.face == TextFace::Monospaced) {
+        attributes += Attribute("font-family",
+                                std::string("'") + MonospacedFamily + "', Consolas, monospace");
     }
     if (text.rotation != 0.0) {
         attributes +=
@@ -185,14 +189,22 @@ void SvgPainter::operator()(const TextRun& text) const {
     svg += "<text" + attributes + Paint("fill", text.color) + content;
 }
 
-void AppendHead(std::string& svg, const DisplayList& list) {
+enum class SvgForm { File, Element };
+
+std::string HeadOf(SvgForm form, const std::string& width, const std::string& height) {
+    if (form == SvgForm::Element) {
+        return "<svg role=\"img\"";
+    }
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+           "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\"" +
+           Attribute("width", width + "mm") + Attribute("height", height + "mm");
+}
+
+void AppendHead(std::string& svg, const DisplayList& list, SvgForm form) {
     const std::string width = Number(list.width);
     const std::string height = Number(list.height);
-    svg += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-           "<svg xmlns=\"http://www.w3.org/2000/svg\" "
-           "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\"";
-    svg += Attribute("width", width + "mm") + Attribute("height", height + "mm") +
-           Attribute("viewBox", "0 0 " + width + " " + height);
+    svg += HeadOf(form, width, height) + Attribute("viewBox", "0 0 " + width + " " + height);
     svg += Attribute("font-family", std::string("'") + FontFamily + "', Verdana, sans-serif");
     svg += " xml:space=\"preserve\" fill=\"none\" stroke-linejoin=\"round\" "
            "stroke-linecap=\"round\">\n";
@@ -201,28 +213,44 @@ void AppendHead(std::string& svg, const DisplayList& list) {
            Paint("fill", White) + "/>\n";
 }
 
-} // namespace
-
-bool WriteSvg(const DisplayList& list, std::string& bytes, std::string& error) {
-    if (!CheckDisplayList(list, error)) {
-        return false;
-    }
-    std::string svg;
-    AppendHead(svg, list);
+void AppendLayers(std::string& svg, const DisplayList& list, SvgForm form) {
     const SvgPainter painter{svg, list.height};
     for (std::size_t k = 0; k < list.layers.size(); ++k) {
         const Layer& layer = list.layers[k];
-        svg += "<g" + Attribute("id", "camada-" + std::to_string(k + 1)) +
-               Attribute("inkscape:groupmode", "layer") +
-               Attribute("inkscape:label", Escaped(layer.name)) + ">\n";
+        svg += "<g";
+        if (form == SvgForm::File) {
+            svg += Attribute("id", "camada-" + std::to_string(k + 1)) +
+                   Attribute("inkscape:groupmode", "layer") +
+                   Attribute("inkscape:label", Escaped(layer.name));
+        }
+        svg += ">\n";
         for (const Element& element : layer.elements) {
             std::visit(painter, element);
         }
         svg += "</g>\n";
     }
+}
+
+bool Write(const DisplayList& list, SvgForm form, std::string& bytes, std::string& error) {
+    if (!CheckDisplayList(list, error)) {
+        return false;
+    }
+    std::string svg;
+    AppendHead(svg, list, form);
+    AppendLayers(svg, list, form);
     svg += "</svg>\n";
     bytes = std::move(svg);
     return true;
+}
+
+} // namespace
+
+bool WriteSvg(const DisplayList& list, std::string& bytes, std::string& error) {
+    return Write(list, SvgForm::File, bytes, error);
+}
+
+bool WriteSvgElement(const DisplayList& list, std::string& element, std::string& error) {
+    return Write(list, SvgForm::Element, element, error);
 }
 
 } // namespace Merivane::Drawing

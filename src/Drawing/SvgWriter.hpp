@@ -13,4 +13,8 @@ namespace Merivane::Drawing {
 /// Returns false and sets `error` where `CheckDisplayList` refuses; `bytes` is then untouched.
 bool WriteSvg(const DisplayList& list, std::string& bytes, std::string& error);
 
+/// The same image as an element to stand in an HTML page, as wide as the page lets it: without
+/// declaration, names of layers and ids, which no two images of a page may share.
+bool WriteSvgElement(const DisplayList& list, std::string& element, std::string& error);
+
 } // namespace Merivane::Drawing

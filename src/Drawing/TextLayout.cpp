@@ -55,9 +55,11 @@ std::string CleanText(std::string_view text) {
     return clean;
 }
 
-LayoutPointer MakeTextLayout(std::string_view text, double height, TextWeight weight) {
+LayoutPointer MakeTextLayout(std::string_view text, double height, TextWeight weight,
+                             TextFace face) {
     const std::unique_ptr<PangoFontDescription, ReleaseFont> font(pango_font_description_new());
-    pango_font_description_set_family_static(font.get(), FontFamily);
+    pango_font_description_set_family_static(
+        font.get(), face == TextFace::Monospaced ? MonospacedFamily : FontFamily);
     pango_font_description_set_weight(font.get(), weight == TextWeight::Bold ? PANGO_WEIGHT_BOLD
                                                                              : PANGO_WEIGHT_NORMAL);
     pango_font_description_set_absolute_size(font.get(), height * EmPerCapital * PANGO_SCALE);

@@ -34,8 +34,8 @@ Point Turned(const TextRun& text, Point offset) {
 
 } // namespace
 
-TextSize MeasureText(std::string_view text, double height, TextWeight weight) {
-    const LayoutPointer layout = MakeTextLayout(text, height, weight);
+TextSize MeasureText(std::string_view text, double height, TextWeight weight, TextFace face) {
+    const LayoutPointer layout = MakeTextLayout(text, height, weight, face);
     PangoRectangle ink;
     PangoRectangle logical;
     pango_layout_line_get_extents(TextLine(layout), &ink, &logical);
@@ -49,7 +49,7 @@ Point TextOrigin(const TextRun& text, const TextSize& size) {
 }
 
 Box TextBounds(const TextRun& text) {
-    const TextSize size = MeasureText(text.text, text.height, text.weight);
+    const TextSize size = MeasureText(text.text, text.height, text.weight, text.face);
     const Point start = AnchorOffset(text, size);
     const std::array<Point, 4> corners = {
         Turned(text, {start.x, start.y - size.below}),

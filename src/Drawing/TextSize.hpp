@@ -21,8 +21,10 @@ struct Box {
     double top = 0.0;
 };
 
-/// Size of a text in the font that every writer uses (DejaVu Sans), its capitals `height` mm high.
-TextSize MeasureText(std::string_view text, double height, TextWeight weight = TextWeight::Normal);
+/// Size of a text in the font that every writer uses (DejaVu Sans, DejaVu Sans Mono), its capitals
+/// `height` mm high.
+TextSize MeasureText(std::string_view text, double height, TextWeight weight = TextWeight::Normal,
+                     TextFace face = TextFace::Proportional);
 
 /// Where the base line of a text begins, its anchor and its rotation applied [mm].
 Point TextOrigin(const TextRun& text, const TextSize& size);

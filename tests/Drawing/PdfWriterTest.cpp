@@ -79,5 +79,28 @@ TEST(WritePdf, RefusesAPageWithoutSize) {
     EXPECT_EQ(bytes, "antes");
 }
 
+TEST(WritePdfBook, GivesEachPageItsOwnSizeAndAnOutline) {
+    PdfBook book{"Livro", {Sample(), {"", 210, 297, {}}}, {}};
+    book.bookmarks = {{"Capítulo", 0, false}, {"Seção", 1, true}, {"Fim", 1, false}};
+    std::string pdf;
+    std::string error;
+    ASSERT_TRUE(WritePdfBook(book, pdf, error)) << error;
+    EXPECT_EQ(Count(pdf, "/Count 2"), 1U);
+    EXPECT_EQ(Count(pdf, "/MediaBox [ 0 0 841.889764 595.275591 ]"), 1U);
+    EXPECT_EQ(Count(pdf, "/MediaBox [ 0 0 595.275591 841.889764 ]"), 1U);
+    EXPECT_GE(Count(pdf, "/Outlines"), 1U);
+    EXPECT_EQ(Count(pdf, "(Fim)"), 1U);
+}
+
+TEST(WritePdfBook, RefusesABookWithoutPagesAndOneWithAPageWithoutSize) {
+    std::string bytes = "antes";
+    std::string error;
+    EXPECT_FALSE(WritePdfBook({"Livro", {}, {}}, bytes, error));
+    EXPECT_EQ(error, "O documento precisa de pelo menos uma folha.");
+    EXPECT_FALSE(WritePdfBook({"Livro", {Sample(), {"", 0, 10, {}}}, {}}, bytes, error));
+    EXPECT_EQ(error, "A folha do desenho precisa de largura e altura acima de 0 e de até 5000 mm.");
+    EXPECT_EQ(bytes, "antes");
+}
+
 } // namespace
 } // namespace Merivane::Drawing

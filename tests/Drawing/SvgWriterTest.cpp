@@ -122,6 +122,29 @@ TEST(WriteSvg, RepeatsByteForByte) {
     EXPECT_EQ(Svg(list), Svg(list));
 }
 
+TEST(WriteSvg, SetsLettersOfOneWidthInTheirOwnFont) {
+    TextRun text;
+    text.text = "0,15";
+    text.face = TextFace::Monospaced;
+    EXPECT_TRUE(Holds(Svg({"", 10, 10, {{"", {text}}}}),
+                      "font-family=\"'DejaVu Sans Mono', Consolas, monospace\""));
+}
+
+TEST(WriteSvgElement, HasNothingThatTwoImagesOfAPageMayNotShare) {
+    std::string element;
+    std::string error;
+    const DisplayList list{"Planta", 100, 80, {{"A", {Polyline{{{1, 2}, {3, 4}}, true, {}}}}}};
+    ASSERT_TRUE(WriteSvgElement(list, element, error)) << error;
+    EXPECT_EQ(element.substr(0, 36), "<svg role=\"img\" viewBox=\"0 0 100 80\"");
+    EXPECT_TRUE(Holds(element, "<title>Planta</title>"));
+    EXPECT_FALSE(Holds(element, " id="));
+    EXPECT_FALSE(Holds(element, "http"));
+    EXPECT_TRUE(Holds(element, "<path d=\"M1 78L3 76Z\""));
+    element = "antes";
+    EXPECT_FALSE(WriteSvgElement({"", 0, 10, {}}, element, error));
+    EXPECT_EQ(element, "antes");
+}
+
 TEST(WriteSvg, RefusesWhatIsNoNumber) {
     std::string bytes = "antes";
     std::string error;

@@ -86,6 +86,15 @@ TEST(TextBounds, FollowsAnchorAndRotation) {
     }
 }
 
+TEST(MeasureText, GivesEveryMonospacedLetterOneWidth) {
+    const auto width = [](const std::string& text) {
+        return MeasureText(text, 2.0, TextWeight::Normal, TextFace::Monospaced).width;
+    };
+    EXPECT_NEAR(width("iii"), width("MÇ0"), 1e-6);
+    EXPECT_NEAR(width("iiii"), 4.0 * width("i"), 1e-3);
+    EXPECT_GT(width("iii"), MeasureText("iii", 2.0).width);
+}
+
 TEST(BoxesMeet, CountsTheGapBetweenThem) {
     const Box box{0, 0, 10, 10};
     EXPECT_TRUE(BoxesMeet(box, {9, 9, 20, 20}));
