@@ -1,9 +1,7 @@
 #include "Program/ArgumentValues.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <string_view>
 
 #include "Text/Number.hpp"
 
@@ -11,15 +9,29 @@ namespace Merivane::Program {
 
 namespace {
 
-/// Reads a positive number with a decimal point or comma.
-bool ReadPositive(std::string text, double& value) {
+/// Reads a number with a decimal point or comma.
+bool ReadNumber(std::string text, double& value) {
     std::replace(text.begin(), text.end(), ',', '.');
+    return Text::ReadEntireNumber(text, value) && std::isfinite(value);
+}
+
+bool ReadPositive(const std::string& text, double& value) {
     double read = 0.0;
-    if (!Text::ReadEntireNumber(text, read) || !std::isfinite(read) || read <= 0.0) {
+    if (!ReadNumber(text, read) || read <= 0.0) {
         return false;
     }
     value = read;
     return true;
+}
+
+/// "a, b ou c".
+std::string ListWords(const std::vector<std::string_view>& words) {
+    std::string list;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        list += i == 0 ? "" : i + 1 < words.size() ? ", " : " ou ";
+        list += words[i];
+    }
+    return list;
 }
 
 std::string ShortDecimal(double value) {
@@ -79,14 +91,56 @@ bool JudgeFloor(const std::string& text, std::optional<int>& floor, std::string&
     return false;
 }
 
-bool JudgePalette(const std::string& text, std::uint32_t& colorScale, std::string& error) {
-    constexpr std::array<std::string_view, 3> names = {"espectro", "calor", "cinza"};
-    const auto found = std::find(names.begin(), names.end(), text);
-    if (!text.empty() && found == names.end()) {
-        error = "--paleta: \"" + text + "\" não existe (use espectro, calor ou cinza)";
+bool JudgeNumber(const char* option, const std::string& text, double lowest, double highest,
+                 std::optional<double>& value, std::string& error) {
+    double read = 0.0;
+    if (text.empty()) {
+        return true;
+    }
+    if (ReadNumber(text, read) && read >= lowest && read <= highest) {
+        value = read;
+        return true;
+    }
+    error = std::string(option) + ": \"" + text + "\" não é um número de " + ShortDecimal(lowest) +
+            " a " + ShortDecimal(highest);
+    return false;
+}
+
+bool JudgeWord(const char* option, const std::string& text,
+               const std::vector<std::string_view>& words, std::optional<std::uint32_t>& place,
+               std::string& error) {
+    if (text.empty()) {
+        return true;
+    }
+    const auto found = std::find(words.begin(), words.end(), text);
+    if (found == words.end()) {
+        error =
+            std::string(option) + ": \"" + text + "\" não existe (use " + ListWords(words) + ")";
         return false;
     }
-    colorScale = text.empty() ? 0U : static_cast<std::uint32_t>(found - names.begin());
+    place = static_cast<std::uint32_t>(found - words.begin());
+    return true;
+}
+
+bool JudgeStandard(const std::string& text, std::optional<Simulation::ReferenceStandard>& standard,
+                   std::string& error) {
+    std::optional<std::uint32_t> place;
+    if (!JudgeWord("--norma", text, {"nbr", "iso"}, place, error)) {
+        return false;
+    }
+    if (place) {
+        standard = *place == 0 ? Simulation::ReferenceStandard::Brazilian
+                               : Simulation::ReferenceStandard::International;
+    }
+    return true;
+}
+
+bool JudgePalette(const std::string& text, std::uint32_t& colorScale, std::string& error) {
+    std::optional<std::uint32_t> place;
+    if (!JudgeWord("--paleta", text, {"espectro", "calor", "cinza"}, place, error)) {
+        return false;
+    }
+    colorScale = place.value_or(0);
     return true;
 }
 

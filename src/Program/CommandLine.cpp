@@ -10,16 +10,13 @@
 #include <CLI/Formatter.hpp>
 
 #include "Program/ArgumentValues.hpp"
+#include "Program/CalculateForm.hpp"
 #include "Program/CommandChoice.hpp"
 #include "Program/Version.hpp"
 
 namespace Merivane::Program {
 
 namespace {
-
-/// A value of the command line that is judged after CLI11 has split the line, so that what is
-/// wrong with it is said in Portuguese. Returns false with the sentence.
-using Judgement = std::function<bool(std::string& error)>;
 
 /// The line as CLI11 splits it; values that are not free text wait in strings.
 struct RawLine {
@@ -29,6 +26,7 @@ struct RawLine {
     TasksArguments tasks;
     RunArguments run;
     DrawArguments draw;
+    CalculateArguments calculate;
     std::string scale;
     std::string drawingScale;
     std::string floor;
@@ -218,6 +216,14 @@ CLI::App* AddDraw(CLI::App& app, RawLine& line) {
     return command;
 }
 
+CLI::App* AddCalculate(CLI::App& app, RawLine& line) {
+    CLI::App* command = app.add_subcommand(
+        "calcular", "Calcula a luz das Zonas de um projeto e desenha nele os resultados");
+    Prepare(*command);
+    line.judgements.push_back(AddCalculateOptions(*command, line.calculate));
+    return command;
+}
+
 std::string Before(const std::string& text, std::string_view mark) {
     return text.substr(0, text.find(mark));
 }
@@ -286,6 +292,7 @@ CLI::App* AddPlain(CLI::App& app, const char* name, const char* description) {
 
 std::vector<Form> AddForms(CLI::App& app, RawLine& line) {
     return {
+        {AddCalculate(app, line), [&line] { return line.calculate; }},
         {AddSimulate(app, line), [&line] { return line.simulate; }},
         {AddIes(app, line), [&line] { return line.ies; }},
         {AddUgr(app, line), [&line] { return line.ugr; }},

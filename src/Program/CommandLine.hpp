@@ -6,6 +6,8 @@
 #include <variant>
 #include <vector>
 
+#include "Program/CalculateArguments.hpp"
+
 namespace Merivane::Program {
 
 /// Exit statuses of the program.
@@ -80,9 +82,9 @@ struct DrawArguments {
 };
 
 /// What was asked for on the command line; the first alternative when nothing is left to do.
-using Request =
-    std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments, TasksArguments,
-                 CheckRadianceArguments, ListCommandsArguments, RunArguments, DrawArguments>;
+using Request = std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments,
+                             TasksArguments, CheckRadianceArguments, ListCommandsArguments,
+                             RunArguments, DrawArguments, CalculateArguments>;
 
 /// How reading the command line ended.
 struct CommandLineResult {

@@ -6,6 +6,7 @@ namespace Merivane::Program {
 
 /// Each does its whole job, writes to standard output and standard error, and returns the exit
 /// status of the program.
+int CalculateCommand(const CalculateArguments& arguments);
 int SimulateCommand(const SimulateArguments& arguments);
 int IesCommand(const IesArguments& arguments);
 int UgrCommand(const UgrArguments& arguments);

@@ -19,6 +19,9 @@ struct RunRequest {
     int status = StatusDone;
 
     int operator()(std::monostate /*nothing*/) const { return status; }
+    int operator()(const CalculateArguments& arguments) const {
+        return CalculateCommand(arguments);
+    }
     int operator()(const SimulateArguments& arguments) const { return SimulateCommand(arguments); }
     int operator()(const IesArguments& arguments) const { return IesCommand(arguments); }
     int operator()(const UgrArguments& arguments) const { return UgrCommand(arguments); }

@@ -29,19 +29,17 @@ ProgressStyle ChooseProgressStyle(bool silent) {
     return ErrorOutputIsTerminal() ? ProgressStyle::Bar : ProgressStyle::Lines;
 }
 
-void TellProgress(ProgressState& state, Simulation::SimulationStage stage, double fraction) {
+void TellProgress(ProgressState& state, int stage, const std::string& title, double fraction) {
     if (state.style == ProgressStyle::None) {
         return;
     }
-    const int number = static_cast<int>(stage);
     const int percent = static_cast<int>(std::lround(fraction * 100.0));
-    const bool newStage = number != state.stage;
+    const bool newStage = stage != state.stage;
     if (!newStage && percent == state.percent) {
         return;
     }
-    state.stage = number;
+    state.stage = stage;
     state.percent = percent;
-    const std::string title = Simulation::StageTitle(stage, state.pointCount);
     if (state.style == ProgressStyle::Bar) {
         DrawBar(title, percent);
     } else if (newStage) {
@@ -49,11 +47,21 @@ void TellProgress(ProgressState& state, Simulation::SimulationStage stage, doubl
     }
 }
 
-void EndProgress(ProgressState& state) {
-    if (state.style == ProgressStyle::Bar && state.stage >= 0) {
+void TellProgress(ProgressState& state, Simulation::SimulationStage stage, double fraction) {
+    TellProgress(state, static_cast<int>(stage), Simulation::StageTitle(stage, state.pointCount),
+                 fraction);
+}
+
+void EraseProgress(ProgressState& state) {
+    if (state.style == ProgressStyle::Bar && state.percent >= 0) {
         std::fputs("\r\x1b[K", stderr);
         std::fflush(stderr);
     }
+    state.percent = -1;
+}
+
+void EndProgress(ProgressState& state) {
+    EraseProgress(state);
     state.stage = -1;
 }
 

@@ -22,10 +22,16 @@ struct ProgressState {
     int percent = -1;
 };
 
-/// Tells that `stage` is done to `fraction` [0..1], where that is news.
+/// Tells that the stage of this number and title is done to `fraction` [0..1], where that is news.
+void TellProgress(ProgressState& state, int stage, const std::string& title, double fraction);
+
+/// The same of a stage of a calculation.
 void TellProgress(ProgressState& state, Simulation::SimulationStage stage, double fraction);
 
-/// Clears the bar, so that what follows begins on a line of its own.
+/// Takes the bar away for a line that is about to be written; the next progress draws it again.
+void EraseProgress(ProgressState& state);
+
+/// Ends the progress of one piece of work: its bar goes, the next piece begins anew.
 void EndProgress(ProgressState& state);
 
 } // namespace Merivane::Program

@@ -1,5 +1,5 @@
 #include <string>
-#include <utility>
+#include <vector>
 
 #include "AddOn/CommandTable.hpp"
 #include "AddOn/Entry/EntryPoints.hpp"
@@ -7,14 +7,13 @@
 #include "Program/CommandChoice.hpp"
 #include "Program/Commands.hpp"
 #include "Program/DialogFiles.hpp"
+#include "Program/HostedRun.hpp"
 #include "Program/Interrupt.hpp"
 #include "Program/Message.hpp"
 #include "Program/OutputFiles.hpp"
-#include "Text/FileBytes.hpp"
 #include "Text/Utf8.hpp"
 #include "Workbench/DialogRun.hpp"
 #include "Workbench/MenuRun.hpp"
-#include "Workbench/Project/ProjectFile.hpp"
 #include "Workbench/Session.hpp"
 
 namespace Merivane::Program {
@@ -22,48 +21,6 @@ namespace Merivane::Program {
 namespace {
 
 using Workbench::CurrentSession;
-
-bool ReadAnswers(const std::string& file, std::string& error) {
-    if (file.empty()) {
-        return true;
-    }
-    std::string bytes;
-    if (!Text::ReadFileBytes(Text::Widen(file), bytes)) {
-        error = "não foi possível ler \"" + file + "\"";
-        return false;
-    }
-    if (!Workbench::ParseAnswerScript(bytes, CurrentSession().userInterface.answers, error)) {
-        error = "\"" + file + "\": " + error;
-        return false;
-    }
-    return true;
-}
-
-bool LoadAddOn(std::string& error) {
-    Host::AddOnEnvironment environment;
-    CheckEnvironment(environment);
-    for (const auto step : {RegisterInterface, Initialize}) {
-        if (const Host::ErrorCode code = step()) {
-            error = "o complemento não pôde ser carregado (" + Commands::ErrorName(code) + ")";
-            return false;
-        }
-    }
-    return true;
-}
-
-/// Opens the project behind the add-on, which is told of it.
-bool OpenProject(const std::string& file, std::string& error) {
-    if (file.empty()) {
-        return true;
-    }
-    Workbench::Project project;
-    const std::wstring path = Text::Widen(file);
-    if (!Workbench::ReadProject(path, project, error)) {
-        return false;
-    }
-    Workbench::OpenProject(std::move(project), path);
-    return true;
-}
 
 bool ChooseFromMenu(std::int16_t command, std::string& error) {
     const MenuPlace place = FindMenuPlace(command);
@@ -89,20 +46,20 @@ bool ShowDialogs(const RunArguments& arguments, std::string& error) {
 
 bool SaveProject(const RunArguments& arguments, std::string& error) {
     const Workbench::Session& session = CurrentSession();
-    const std::string& file = arguments.saveAs.empty() ? arguments.projectFile : arguments.saveAs;
     if (!session.projectOpen || (arguments.saveAs.empty() && !session.projectChanged)) {
         return true;
     }
-    if (!Workbench::SaveProject(Text::Widen(file), session.project, error)) {
-        return false;
-    }
-    TellLine("Projeto gravado: " + file);
-    return true;
+    return SaveProjectFile(arguments.saveAs.empty() ? arguments.projectFile : arguments.saveAs,
+                           false, error);
+}
+
+bool OpenProject(const RunArguments& arguments, std::string& error) {
+    return arguments.projectFile.empty() || OpenProjectFile(arguments.projectFile, error);
 }
 
 /// The command between loading and unloading the add-on. What it leaves undone is told in `error`.
 bool RunLoaded(const RunArguments& arguments, std::string& error) {
-    if (!LoadAddOn(error) || !OpenProject(arguments.projectFile, error)) {
+    if (!LoadAddOn(error) || !OpenProject(arguments, error)) {
         return false;
     }
     const bool chosen = ChooseFromMenu(arguments.command, error);
@@ -127,13 +84,9 @@ int RunCommand(const RunArguments& arguments) {
         return Fail("o comando " + std::to_string(command.number) + " (" +
                     std::string(command.name) + ") ainda não foi construído");
     }
-    CatchInterrupts();
-    Workbench::SessionOptions& options = CurrentSession().options;
-    options.cancelAsked = Interrupted;
-    options.onReport = [](const Workbench::ReportLine& line) { TellLine(line.text); };
-
+    PrepareHost({});
     std::string error;
-    if (!ReadAnswers(arguments.answerFile, error)) {
+    if (!ReadAnswers(arguments.answerFile, CurrentSession().userInterface.answers, error)) {
         return Fail(error);
     }
     const bool done = RunLoaded(arguments, error);

@@ -16,6 +16,7 @@
 #include "Program/OutputFiles.hpp"
 #include "Program/Progress.hpp"
 #include "Program/ResultFiles.hpp"
+#include "Program/Verdict.hpp"
 #include "Program/Version.hpp"
 #include "Program/WorkFolder.hpp"
 #include "Program/ZoneReport.hpp"
@@ -218,23 +219,6 @@ bool Deliver(SimulateRun& run) {
     return true;
 }
 
-/// The exit status of a run whose results are written: where it was asked for, whether every Zone
-/// has what it requires.
-int Verdict(const SimulateRun& run) {
-    if (!run.arguments.verify) {
-        return StatusDone;
-    }
-    const std::string failing = FailingZones(run.document, run.analyses);
-    if (!failing.empty()) {
-        TellError("não atende à norma: " + failing);
-        return StatusNotMet;
-    }
-    if (!AnyVerified(run.analyses)) { // a gate that checks nothing should not go unnoticed
-        TellError("nenhuma Zona tem atividade: nada foi verificado");
-    }
-    return StatusDone;
-}
-
 } // namespace
 
 int SimulateCommand(const SimulateArguments& arguments) {
@@ -255,7 +239,7 @@ int SimulateCommand(const SimulateArguments& arguments) {
         RemoveWorkFolder(run.workFolder);
     }
     if (done) {
-        return Verdict(run);
+        return arguments.verify ? Verdict(run.document, run.analyses) : StatusDone;
     }
     if (Interrupted()) {
         TellError("cálculo cancelado; nada foi gravado");
