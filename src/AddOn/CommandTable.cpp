@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "AddOn/Commands/CalculateLighting.hpp"
 #include "AddOn/Commands/CheckRadianceInstallation.hpp"
 #include "AddOn/Commands/ConfigureEngine.hpp"
 #include "AddOn/Commands/ToolbarPalette.hpp"
@@ -19,7 +20,7 @@ constexpr CommandRow Rows[] = {
      WithoutProject},
     {32503, "Adicionar fotometria IES ao objeto selecionado..."},
     {32504, "Importar luminaria (SketchUp + IES)..."},
-    {32505, "Calcular iluminacao (Zonas selecionadas ou do pavimento)"},
+    {32505, "Calcular iluminacao (Zonas selecionadas ou do pavimento)", CalculateLighting},
     {32506, "Diagnostico: coordenadas do corte ativo"},
     {32507, "Calcular plano vertical (Corte ativo)"},
     {32508, "Configuracoes do motor de simulacao...", ConfigureEngine, WithoutProject},

@@ -7,6 +7,7 @@
 #include <utility>
 #include <variant>
 
+#include "AddOn/RunLog/RunLog.hpp"
 #include "Archicad/ContractConversion.hpp"
 #include "Archicad/FloorPlanDatabase.hpp"
 #include "Archicad/ModelReadingZones.hpp"
@@ -151,8 +152,10 @@ private:
             return;
         }
         Host::ElementMemo memo;
-        if (Host::GetMemo(guid, Host::MemoParts::Parameters, memo) != Host::NoError) {
-            return;
+        if (Commands::CheckError("Ler os parametros do objeto",
+                                 Host::GetMemo(guid, Host::MemoParts::Parameters, memo)) !=
+            Host::NoError) {
+            return; // it may have been a luminaire: its light is missed
         }
         // Most objects are no luminaires: the tables are converted only where they are needed.
         const Parameters marks = FromAddPars(memo.parameters, {"mvContractVersion", "mvLightOn"});

@@ -192,9 +192,9 @@ void BuildPoints(Calculation& calculation) {
     CompleteZones(calculation);
     calculation.built = Simulation::BuildStudyScene(calculation.study);
     calculation.notices = calculation.built.notices;
-    ReportLines(calculation.built.notices);
     TellEmptyZones(calculation);
     TellCheapReflections(calculation);
+    ReportLines(calculation.notices);
     ReportLine("calculo: " + std::to_string(calculation.zones.size()) + " zona(s), " +
                std::to_string(CountLuminaires(calculation.study.luminaires)) + " luminaria(s)");
     Progress("radiance: " + std::to_string(calculation.built.scene.sensorPlanes.size()) +
