@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <iterator>
 #include <limits>
 #include <optional>
@@ -59,24 +60,22 @@ bool HoldsAnotherOwner(const Box& owner, const std::vector<Box>& owners) {
     });
 }
 
-/// The extents of what hangs together with `owner`: everything that comes nearer than `gap` to
-/// them is part of them. What lies apart, as a stray element or another building, is not, since it
-/// would send every block away from its Zone. `others` ascend along x.
+/// The extents of the building that `owner` is part of: everything that comes nearer than `gap` to
+/// them belongs to them. What lies apart, as a stray element or another building, does not, since
+/// it would send every block away from its Zone. `others` ascend along x.
 Box ExtentsAround(const Box& owner, std::vector<Box> others, double gap) {
     Box extents = owner;
     for (bool grew = true; grew;) {
-        std::vector<Box> apart;
-        for (const Box& other : others) {
-            if (Meets(extents, other, gap)) {
-                Extend(extents, other);
-            } else {
-                apart.push_back(other);
+        const auto end = std::remove_if(others.begin(), others.end(), [&](const Box& other) {
+            if (!Meets(extents, other, gap)) {
+                return false;
             }
-        }
-        grew = apart.size() < others.size();
-        std::reverse(apart.begin(),
-                     apart.end()); // a chain is met link by link one way or the other
-        others = std::move(apart);
+            Extend(extents, other);
+            return true;
+        });
+        grew = end != others.end();
+        others.erase(end, others.end());
+        std::reverse(others.begin(), others.end()); // a chain is met link by link one way or other
     }
     return extents;
 }
@@ -87,14 +86,16 @@ struct Side {
     bool high = true;
 };
 
+std::size_t AlongAxis(const Side& side) {
+    return side.axis == AxisX ? AxisY : AxisX;
+}
+
 constexpr std::array<Side, 4> Sides = {
     {{AxisX, true}, {AxisX, false}, {AxisY, false}, {AxisY, true}}};
 
-/// Where on `axis` a stretch of `length` begins that is free of `blocked` (ascending by `low`) and
-/// as near to `wanted` as that allows.
+/// The place nearest to `wanted` where a stretch of `length` begins that is free of `blocked`
+/// (ascending by `low`). Before the first and behind the last there is always room.
 double NearestFree(const std::vector<Range>& blocked, double length, double wanted) {
-    // Past the last stretch there is always room; of the rooms between them each offers its nearest
-    // place.
     constexpr double Infinity = std::numeric_limits<double>::infinity();
     double best = Infinity;
     double roomBegin = -Infinity;
@@ -112,112 +113,129 @@ double NearestFree(const std::vector<Range>& blocked, double length, double want
     return best;
 }
 
-/// A place for a block and how far it is from where the block would like to stand [m].
-struct Place {
+/// What no block may cover, ascending along x and once more along y.
+using Obstacles = std::array<std::vector<Box>, 2>;
+
+/// What the search for a block's place goes by.
+struct Search {
+    std::array<double, 2> size; ///< of the block along x and y [m]
+    Box owner;
+    Box extents; ///< of the owner's building
+    const Obstacles& obstacles;
+    const std::vector<Box>& placed; ///< blocks that have their places
+    double gap = 0.0;
+};
+
+/// A place for a block, and how far it is from where the block would like to stand [m].
+struct BlockPlace {
     Box box;
     double distance = 0.0;
 };
 
-/// Chooses the places of blocks one after the other.
-class BlockPlacer {
-public:
-    BlockPlacer(std::vector<Box> obstaclesToMiss, double gapToKeep)
-        : obstacles(std::move(obstaclesToMiss)), gap(gapToKeep) {}
-
-    Box Place(const BlockRequest& block) {
-        const Box owner = BoxOf(block.owner);
-        const Box extents = ExtentsAround(owner, obstacles, gap);
-        std::optional<Simulation::Place> best;
-        for (const Side& side : Sides) {
-            SearchSide(block, extents, side, best);
-        }
-        placed.push_back(best->box);
-        return best->box;
-    }
-
-private:
-    // Columns beside the extents, nearest first: one along them, others behind blocks that stand
-    // there already. In each the block slides to the free place nearest to its owner.
-    void SearchSide(const BlockRequest& block, const Box& extents, const Side& side,
-                    std::optional<Simulation::Place>& best) const {
-        const Box owner = BoxOf(block.owner);
-        const double depth = side.axis == AxisX ? block.width : block.height;
-        for (const double start : ColumnStarts(extents, side)) {
-            const Range across =
-                side.high ? Range{start, start + depth} : Range{start - depth, start};
-            const double outward =
-                side.high ? across.low - owner[side.axis].high : owner[side.axis].low - across.high;
-            if (best && outward >= best->distance) {
-                return;
-            }
-            const Simulation::Place place = SlideAlong(block, owner, side, across, outward);
-            if (!best || place.distance < best->distance - Touching) {
-                best = place;
-            }
-        }
-    }
-
-    std::vector<double> ColumnStarts(const Box& extents, const Side& side) const {
-        const double first =
-            side.high ? extents[side.axis].high + gap : extents[side.axis].low - gap;
-        std::vector<double> starts = {first};
-        for (const Box& block : placed) {
-            const double behind =
-                side.high ? block[side.axis].high + gap : block[side.axis].low - gap;
-            if (side.high ? behind > first : behind < first) {
-                starts.push_back(behind);
-            }
-        }
-        std::sort(starts.begin(), starts.end(),
-                  [&side](double a, double b) { return side.high ? a < b : a > b; });
-        starts.erase(std::unique(starts.begin(), starts.end()), starts.end());
-        return starts;
-    }
-
-    Simulation::Place SlideAlong(const BlockRequest& block, const Box& owner, const Side& side,
-                                 const Range& across, double outward) const {
-        const std::size_t along = side.axis == AxisX ? AxisY : AxisX;
-        const double length = along == AxisX ? block.width : block.height;
-        // Beside its owner a block begins at the owner's top, above and below at its left.
-        const double wanted = along == AxisX ? owner[AxisX].low : owner[AxisY].high - length;
-        std::vector<Range> blocked;
-        for (const std::vector<Box>* boxes : {&obstacles, &placed}) {
-            for (const Box& box : *boxes) {
-                if (Meets(box[side.axis], across, gap)) {
-                    blocked.push_back({box[along].low - gap, box[along].high + gap});
-                }
-            }
-        }
-        std::sort(blocked.begin(), blocked.end(),
-                  [](const Range& a, const Range& b) { return a.low < b.low; });
-        const double begin = NearestFree(blocked, length, wanted);
-        Simulation::Place place;
-        place.box[side.axis] = across;
-        place.box[along] = {begin, begin + length};
-        place.distance = std::hypot(outward, begin - wanted);
-        return place;
-    }
-
-    std::vector<Box> obstacles;
-    std::vector<Box> placed;
-    double gap;
+/// A strip beside the building in which a block may stand.
+struct Column {
+    Side side;
+    Range across;         ///< on the side's axis
+    double outward = 0.0; ///< from the owner to the block [m]
 };
 
-/// What no block may cover, ascending along x. The extents of all Zones are no obstacle themselves,
-/// or two buildings would become one.
-std::vector<Box> ObstaclesOf(const std::vector<BlockRequest>& blocks,
-                             const std::vector<Bounds2D>& occupied) {
+/// The columns of a side: one along the building, others behind blocks that stand there already.
+void AppendColumns(const Search& search, const Side& side, std::vector<Column>& columns) {
+    const Range& owner = search.owner[side.axis];
+    const double depth = search.size[side.axis];
+    const auto append = [&](double start) {
+        const Range across = side.high ? Range{start, start + depth} : Range{start - depth, start};
+        columns.push_back(
+            {side, across, side.high ? across.low - owner.high : owner.low - across.high});
+    };
+    const auto beyond = [&](const Box& box) {
+        return side.high ? box[side.axis].high + search.gap : box[side.axis].low - search.gap;
+    };
+    const double first = beyond(search.extents);
+    append(first);
+    for (const Box& block : search.placed) {
+        const double behind = beyond(block);
+        if (side.high ? behind > first : behind < first) {
+            append(behind);
+        }
+    }
+}
+
+/// Nearest to the owner first, of equals in the order of the sides.
+std::vector<Column> CollectColumns(const Search& search) {
+    std::vector<Column> columns;
+    for (const Side& side : Sides) {
+        AppendColumns(search, side, columns);
+    }
+    std::stable_sort(columns.begin(), columns.end(),
+                     [](const Column& a, const Column& b) { return a.outward < b.outward; });
+    return columns;
+}
+
+/// What is in the way in a column, as ascending stretches along it.
+std::vector<Range> BlockedStretches(const Search& search, const Column& column) {
+    const std::size_t along = AlongAxis(column.side);
+    std::vector<Range> blocked;
+    const auto add = [&](const Box& box) {
+        if (Meets(box[column.side.axis], column.across, search.gap)) {
+            blocked.push_back({box[along].low - search.gap, box[along].high + search.gap});
+        }
+    };
+    const auto lower = [](const Range& a, const Range& b) { return a.low < b.low; };
+    std::for_each(search.obstacles[along].begin(), search.obstacles[along].end(), add);
+    const auto obstacleCount = static_cast<std::ptrdiff_t>(blocked.size());
+    std::for_each(search.placed.begin(), search.placed.end(), add);
+    std::sort(blocked.begin() + obstacleCount, blocked.end(), lower);
+    std::inplace_merge(blocked.begin(), blocked.begin() + obstacleCount, blocked.end(), lower);
+    return blocked;
+}
+
+/// The free place of a column that is nearest to the owner.
+BlockPlace SlideAlong(const Search& search, const Column& column) {
+    const std::size_t along = AlongAxis(column.side);
+    const double length = search.size[along];
+    // Beside its owner a block begins at the owner's top, above and below at its left.
+    const double wanted =
+        along == AxisX ? search.owner[AxisX].low : search.owner[AxisY].high - length;
+    const double begin = NearestFree(BlockedStretches(search, column), length, wanted);
+    BlockPlace place;
+    place.box[column.side.axis] = column.across;
+    place.box[along] = {begin, begin + length};
+    place.distance = std::hypot(column.outward, begin - wanted);
+    return place;
+}
+
+Box FindPlace(const Search& search) {
+    std::optional<BlockPlace> best;
+    for (const Column& column : CollectColumns(search)) {
+        if (best && column.outward >= best->distance) {
+            break; // and so are all columns behind it
+        }
+        const BlockPlace place = SlideAlong(search, column);
+        if (!best || place.distance < best->distance - Touching) {
+            best = place;
+        }
+    }
+    return best->box;
+}
+
+/// The extents of all Zones are no obstacle themselves, or two buildings would become one.
+Obstacles ObstaclesOf(const std::vector<BlockRequest>& blocks,
+                      const std::vector<Bounds2D>& occupied) {
     std::vector<Box> owners;
     for (const BlockRequest& block : blocks) {
         owners.push_back(BoxOf(block.owner));
     }
-    std::vector<Box> obstacles;
-    obstacles.reserve(occupied.size() + owners.size());
-    std::transform(occupied.begin(), occupied.end(), std::back_inserter(obstacles), BoxOf);
-    std::copy_if(owners.begin(), owners.end(), std::back_inserter(obstacles),
+    std::vector<Box> boxes;
+    boxes.reserve(occupied.size() + owners.size());
+    std::transform(occupied.begin(), occupied.end(), std::back_inserter(boxes), BoxOf);
+    std::copy_if(owners.begin(), owners.end(), std::back_inserter(boxes),
                  [&owners](const Box& owner) { return !HoldsAnotherOwner(owner, owners); });
-    std::stable_sort(obstacles.begin(), obstacles.end(),
-                     [](const Box& a, const Box& b) { return a[AxisX].low < b[AxisX].low; });
+    Obstacles obstacles = {boxes, boxes};
+    for (const std::size_t axis : {AxisX, AxisY}) {
+        std::sort(obstacles[axis].begin(), obstacles[axis].end(),
+                  [axis](const Box& a, const Box& b) { return a[axis].low < b[axis].low; });
+    }
     return obstacles;
 }
 
@@ -225,12 +243,19 @@ std::vector<Box> ObstaclesOf(const std::vector<BlockRequest>& blocks,
 
 std::vector<Point2D> PlaceBlocks(const std::vector<BlockRequest>& blocks,
                                  const std::vector<Bounds2D>& occupied, double gap) {
-    BlockPlacer placer(ObstaclesOf(blocks, occupied), std::max(gap, 0.0));
+    const double distance = std::max(gap, 0.0);
+    const Obstacles obstacles = ObstaclesOf(blocks, occupied);
+    std::vector<Box> placed;
     std::vector<Point2D> corners;
-    corners.reserve(blocks.size());
     for (const BlockRequest& block : blocks) {
-        const Box box = placer.Place(block);
-        corners.push_back({box[AxisX].low, box[AxisY].high});
+        const Box owner = BoxOf(block.owner);
+        placed.push_back(FindPlace({{block.width, block.height},
+                                    owner,
+                                    ExtentsAround(owner, obstacles[AxisX], distance),
+                                    obstacles,
+                                    placed,
+                                    distance}));
+        corners.push_back({placed.back()[AxisX].low, placed.back()[AxisY].high});
     }
     return corners;
 }

@@ -1,4 +1,3 @@
-#include <chrono>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -156,11 +155,6 @@ TEST(PlaceBlocks, HoldsOnALargeFloor) {
             const double y = 10.0 * (i / 10);
             blocks.push_back({{{x, y}, {x + 9.0, y + 9.0}}, 12.0, 15.0});
         }
-        const auto start = std::chrono::steady_clock::now();
-        const std::vector<Point2D> corners = PlaceBlocks(blocks, occupied, 0.3);
-        const std::chrono::duration<double, std::milli> spent =
-            std::chrono::steady_clock::now() - start;
-        RecordProperty("milliseconds" + std::to_string(size), std::to_string(spent.count()));
         ExpectClear(blocks, occupied, 0.3);
     }
 }
