@@ -7,6 +7,7 @@
 #include "Document/PlanScene.hpp"
 #include "Simulation/PrintedValue.hpp"
 #include "Simulation/Study/GlareSummary.hpp"
+#include "Simulation/Study/SummaryTexts.hpp"
 
 namespace Merivane::Document {
 
@@ -76,7 +77,7 @@ PlanVerdict AssembleVerdict(const Simulation::ZoneAnalysis& analysis,
     verdict.rows = analysis.verification.rows;
     verdict.notes = Simulation::GlareSummary(analysis);
     for (const std::string& warning : analysis.glare.warnings) {
-        verdict.notes.push_back("Atenção (UGR): " + warning);
+        verdict.notes.push_back(Simulation::GlareWarningText(warning));
     }
     const std::vector<std::string>& screens = analysis.verification.notes;
     verdict.notes.insert(verdict.notes.end(), screens.begin(), screens.end());

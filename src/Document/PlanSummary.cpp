@@ -4,6 +4,7 @@
 #include "Document/PlanVerification.hpp"
 #include "Document/SheetText.hpp"
 #include "Simulation/PrintedValue.hpp"
+#include "Simulation/Study/SummaryTexts.hpp"
 
 namespace Merivane::Document {
 namespace {
@@ -19,10 +20,6 @@ constexpr double Blank = 1.8;     // paragraph without text
 constexpr double LinePitch = 4.2; // of the figures
 constexpr double Between = 4.0;   // between the two halves of a line
 constexpr double Descender = 0.7; // letters that reach below the last line
-
-constexpr const char* NoActivity = "sem atividade definida na Zona: sem verificação";
-constexpr const char* NarrowRemark =
-    "Zona estreita: sem faixa de borda, todos os pontos entram nas estatísticas  [2]";
 
 /// A figure beside its name.
 struct Figure {
@@ -71,9 +68,8 @@ std::string Metres(double value) {
 }
 
 void AppendTitle(SheetBlock& block, const PlanZone& zone) {
-    const std::string& activity = zone.verdict.activity;
     block.height = -0.5 * Title.height; // the first line needs no space above it
-    AppendParagraph(block, activity.empty() ? zone.name : zone.name + "  —  " + activity, Title);
+    AppendParagraph(block, Simulation::ZoneTitle(zone.name, zone.verdict.activity), Title);
     block.height += Blank;
 }
 
@@ -84,7 +80,7 @@ void AppendVerdict(SheetBlock& block, const PlanZone& zone) {
                         zone.name + ":   Em " + Lux(zone.statistics.mean) + "   U0 " +
                             FormatDecimal(zone.statistics.uniformity, 2),
                         Unverified);
-        AppendParagraph(block, NoActivity, Line);
+        AppendParagraph(block, Simulation::NotVerifiedText, Line);
     }
     AppendRecommendations(block, zone.verdict);
 }
@@ -103,7 +99,7 @@ void AppendFigures(SheetBlock& block, const PlanZone& zone) {
     AppendLong(block, figures);
     if (zone.grid.narrow) {
         block.height += 1.0;
-        AppendParagraph(block, NarrowRemark, Remark);
+        AppendParagraph(block, Simulation::NarrowZoneText, Remark);
     }
 }
 

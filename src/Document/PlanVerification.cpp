@@ -6,6 +6,7 @@
 
 #include "Document/BlockText.hpp"
 #include "Document/SheetText.hpp"
+#include "Simulation/Study/SummaryTexts.hpp"
 
 namespace Merivane::Document {
 namespace {
@@ -19,9 +20,6 @@ constexpr double RowPitch = 3.9;
 constexpr double LeastHeight = 1.4; // of a cell that is too long for its column
 constexpr Drawing::Color Met{0.05, 0.45, 0.15, 1.0};
 constexpr Drawing::Color Failed{0.75, 0.08, 0.08, 1.0};
-
-constexpr const char* MissingRemark =
-    "Itens SEM DADO não entram no resultado: complete-os (ver Folha de Trabalho).";
 
 struct TabStop {
     double left;
@@ -48,8 +46,9 @@ void AppendTable(SheetBlock& block, const std::string& heading,
                  const std::vector<VerificationRow>& rows) {
     block.height += 1.0;
     AppendParagraph(block, heading, {RowHeight, RowPitch, TextWeight::Bold, Drawing::Black});
-    AppendCells(block, {"Critério", "Calculado", "Exigido", "Situação"}, TextWeight::Bold,
-                Drawing::Black);
+    Cells head;
+    std::copy(Simulation::CriteriaColumns.begin(), Simulation::CriteriaColumns.end(), head.begin());
+    AppendCells(block, head, TextWeight::Bold, Drawing::Black);
     AppendRule(block);
     for (const VerificationRow& row : rows) {
         const std::string state = Simulation::RowState(row);
@@ -59,19 +58,11 @@ void AppendTable(SheetBlock& block, const std::string& heading,
     AppendRule(block);
 }
 
-std::vector<VerificationRow> RowsOf(const std::vector<VerificationRow>& rows,
-                                    VerificationKind kind) {
-    std::vector<VerificationRow> chosen;
-    std::copy_if(rows.begin(), rows.end(), std::back_inserter(chosen),
-                 [kind](const VerificationRow& row) { return row.kind == kind; });
-    return chosen;
-}
-
 // The overall result stands below the states.
 void AppendResult(SheetBlock& block, bool passes) {
     block.height += RowPitch + 0.6;
-    block.elements.emplace_back(
-        SheetText("RESULTADO", Stops.front().left, -block.height, RowHeight, TextWeight::Bold));
+    block.elements.emplace_back(SheetText(Simulation::ResultLabel, Stops.front().left,
+                                          -block.height, RowHeight, TextWeight::Bold));
     Drawing::TextRun state =
         FittingText(passes ? "ATENDE" : "NÃO ATENDE", Stops.back().left, -block.height,
                     Stops.back().width, {RowHeight, LeastHeight}, TextWeight::Bold);
@@ -92,31 +83,28 @@ void AppendVerification(SheetBlock& block, const PlanVerdict& verdict) {
     if (verdict.rows.empty()) {
         return;
     }
-    const std::vector<VerificationRow> required =
-        RowsOf(verdict.rows, VerificationKind::Requirement);
     const bool passes = Simulation::VerificationPasses(verdict.rows);
-    AppendTable(block, "Verificação  —  " + verdict.standard, required);
+    AppendTable(block, Simulation::VerificationHeading(verdict.standard),
+                Simulation::RowsOfKind(verdict.rows, VerificationKind::Requirement));
     AppendResult(block, passes);
-    const bool missing = std::any_of(required.begin(), required.end(),
-                                     [](const VerificationRow& row) { return !row.hasData; });
-    if (passes && missing) {
-        AppendParagraph(block, MissingRemark, {1.8, 3.2, TextWeight::Normal, Muted});
+    if (Simulation::PassesWithMissingData(verdict.rows)) {
+        AppendParagraph(block, Simulation::MissingDataText, {1.8, 3.2, TextWeight::Normal, Muted});
     }
 }
 
 void AppendRecommendations(SheetBlock& block, const PlanVerdict& verdict) {
     const std::vector<VerificationRow> rows =
-        RowsOf(verdict.rows, VerificationKind::Recommendation);
+        Simulation::RowsOfKind(verdict.rows, VerificationKind::Recommendation);
     if (!rows.empty()) {
         block.height += 1.0;
-        AppendTable(block, "Recomendações  —  4.2 e 4.8 (não entram no resultado)", rows);
+        AppendTable(block, Simulation::RecommendationsHeading, rows);
     }
 }
 
 void AppendSurfaces(SheetBlock& block, const PlanVerdict& verdict) {
     if (!verdict.surfaces.empty()) {
         block.height += 1.0;
-        AppendTable(block, "Superfícies  —  EN 12464-1 (referência)", verdict.surfaces);
+        AppendTable(block, Simulation::SurfacesHeading, verdict.surfaces);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "Document/ZoneExplanation.hpp"
 #include "Program/Message.hpp"
 #include "Simulation/Study/GlareSummary.hpp"
+#include "Simulation/Study/SummaryTexts.hpp"
 
 namespace Merivane::Program {
 
@@ -20,7 +21,11 @@ using Simulation::ZoneAnalysis;
 using Cells = std::array<std::string, 4>;
 using Widths = std::array<std::size_t, 4>;
 
-const Cells Head = {"Critério", "Calculado", "Exigido", "Situação"};
+Cells HeadCells() {
+    Cells head;
+    std::copy(Simulation::CriteriaColumns.begin(), Simulation::CriteriaColumns.end(), head.begin());
+    return head;
+}
 
 Cells CellsOf(const VerificationRow& row) {
     return {row.criterion, row.calculated, row.required, Simulation::RowState(row)};
@@ -35,7 +40,7 @@ void Widen(Widths& widths, const Cells& cells) {
 /// The columns of all Zones stand below each other.
 Widths ColumnWidths(const std::vector<Simulation::ZoneAnalysis>& analyses) {
     Widths widths{};
-    Widen(widths, Head);
+    Widen(widths, HeadCells());
     for (const Simulation::ZoneAnalysis& analysis : analyses) {
         for (const VerificationRow& row : analysis.verification.rows) {
             Widen(widths, CellsOf(row));
@@ -70,9 +75,10 @@ std::string ActivityText(const Simulation::StudyZone& zone, const Simulation::Ta
 
 void TellVerification(const Simulation::ZoneAnalysis& analysis, const Widths& widths) {
     const std::vector<VerificationRow>& rows = analysis.verification.rows;
-    TellLine(TableLine(Head, widths));
+    TellLine(TableLine(HeadCells(), widths));
     TellRows(rows, VerificationKind::Requirement, widths);
-    TellLine("  RESULTADO: " + Simulation::OverallState(analysis));
+    TellLine("  " + std::string(Simulation::ResultLabel) + ": " +
+             Simulation::OverallState(analysis));
     if (Holds(rows, VerificationKind::Recommendation)) {
         TellLine("  Recomendações (não entram no resultado)");
         TellRows(rows, VerificationKind::Recommendation, widths);
@@ -84,9 +90,9 @@ void TellZone(const Simulation::StudyZone& zone, const Simulation::ZoneAnalysis&
     TellLine("");
     if (analysis.task == nullptr) {
         TellLine(zone.name);
-        TellLine("  sem atividade definida na Zona: sem verificação");
+        TellLine(std::string("  ") + Simulation::NotVerifiedText);
     } else {
-        TellLine(zone.name + "  —  " + ActivityText(zone, *analysis.task));
+        TellLine(Simulation::ZoneTitle(zone.name, ActivityText(zone, *analysis.task)));
         TellVerification(analysis, widths);
     }
     for (const std::string& line : Simulation::GlareSummary(analysis)) {
@@ -107,7 +113,8 @@ void TellZones(const Simulation::LightingStudy& document,
     const Widths widths = ColumnWidths(analyses);
     if (AnyVerified(analyses)) {
         TellLine("");
-        TellLine("Verificação  —  " + Simulation::ReferenceStandardName(document.standard));
+        TellLine(
+            Simulation::VerificationHeading(Simulation::ReferenceStandardName(document.standard)));
     }
     for (std::size_t i = 0; i < analyses.size(); ++i) {
         TellZone(document.zones[i], analyses[i], widths);
