@@ -12,6 +12,7 @@
 #include "Document/Report/ReportZone.hpp"
 #include "Document/Report/SettingsSection.hpp"
 #include "Simulation/Glare/ObserverGlare.hpp"
+#include "Simulation/PlacedLuminaire.hpp"
 #include "Simulation/PrintedValue.hpp"
 
 namespace Merivane::Document {
@@ -62,24 +63,15 @@ ReportTone VerdictTone(const VerdictCounts& counts) {
     return counts.met > 0 && counts.noData == 0 ? ReportTone::Met : ReportTone::Plain;
 }
 
-std::size_t SourceCount(const std::vector<ZonePower>& powers) {
-    std::size_t count = 0;
-    for (const ZonePower& power : powers) {
-        count += power.count;
-    }
-    return count;
-}
-
-ReportFacts FrontFacts(const ReportInput& input, const std::vector<ZonePower>& powers) {
+ReportFacts FrontFacts(const ReportInput& input) {
+    const std::size_t lights = Simulation::PlaceLuminaires(input.built.scene.luminaires).size();
     ReportFacts facts;
     if (!input.moment.empty()) {
         facts.facts.push_back({"Data do cálculo", input.moment});
     }
     facts.facts.push_back({"Norma", Simulation::ReferenceStandardName(input.study.standard)});
-    facts.facts.push_back(
-        {"Extensão", CountText(input.study.zones.size(), "Zona", "Zonas") + ", " +
-                         CountText(SourceCount(powers), "luminária", "luminárias") +
-                         " sobre as Zonas"});
+    facts.facts.push_back({"Extensão", CountText(input.study.zones.size(), "Zona", "Zonas") + ", " +
+                                           CountText(lights, "luminária", "luminárias")});
     facts.facts.push_back({"Motor", Simulation::EngineSummary(input.study.engine)});
     const VerdictCounts counts = CountVerdicts(input.analyses);
     const std::string verdict = VerdictText(counts);
@@ -130,10 +122,9 @@ ReportTable GlanceTable(const ReportInput& input) {
     return table;
 }
 
-std::vector<ReportBlock> BuildFront(const ReportInput& input,
-                                    const std::vector<ZonePower>& powers) {
+std::vector<ReportBlock> BuildFront(const ReportInput& input) {
     std::vector<ReportBlock> blocks;
-    blocks.emplace_back(FrontFacts(input, powers));
+    blocks.emplace_back(FrontFacts(input));
     if (input.study.zones.empty()) {
         blocks.emplace_back(ReportParagraph{"Nenhuma Zona foi calculada.", false});
         return blocks;
@@ -234,7 +225,7 @@ Report BuildReport(const ReportInput& input) {
     report.subject = input.study.name.empty() ? "Projeto sem nome" : input.study.name;
     report.moment = input.moment;
     report.origin = "Vantoro " + input.run.programVersion;
-    report.front = BuildFront(input, powers);
+    report.front = BuildFront(input);
     report.sections.push_back(BuildAdopted(input));
     AddNotices(input, report);
     AddPictures(input, report);

@@ -44,9 +44,9 @@ std::string TypeText(const LuminaireType& type) {
 ReportTable TypeTable(const std::vector<LuminaireType>& types) {
     ReportTable table;
     table.columns = {
-        {"Modelo", 4.6, false},    {"Fabricante", 2.4, false},  {"Lâmpada", 2.4, false},
-        {"Ra", 1.0, true},         {"FM", 1.0, true},           {"Qtd.", 1.0, true},
-        {"Fluxo (lm)", 1.6, true}, {"Potência (W)", 1.7, true}, {"Total (W)", 1.5, true}};
+        {"Modelo", 4.0, false},    {"Fabricante", 2.3, false},  {"Lâmpada", 2.2, false},
+        {"Ra", 0.8, true},         {"FM", 1.2, true},           {"Qtd.", 0.9, true},
+        {"Fluxo (lm)", 1.9, true}, {"Potência (W)", 2.4, true}, {"Total (W)", 1.8, true}};
     double watts = 0.0;
     std::size_t count = 0;
     std::size_t without = 0;
@@ -77,12 +77,9 @@ std::string NormalisedText(const ZonePower& power, double mean) {
 
 ReportTable PowerTable(const ReportInput& input, const std::vector<ZonePower>& powers) {
     ReportTable table;
-    table.columns = {{"Zona", 4.0, false},
-                     {"Área (m²)", 1.4, true},
-                     {"Luminárias", 1.4, true},
-                     {"Potência (W)", 1.6, true},
-                     {"Potência por área", 1.9, true},
-                     {"W/m² por 100 lx", 1.8, true}};
+    table.columns = {{"Zona", 4.0, false},      {"Área (m²)", 1.4, true},
+                     {"Luminárias", 1.4, true}, {"Potência (W)", 1.6, true},
+                     {"Por área", 1.6, true},   {"W/m² por 100 lx", 1.8, true}};
     for (std::size_t i = 0; i < powers.size(); ++i) {
         const ZonePower& power = powers[i];
         table.rows.push_back({Cell(input.study.zones[i].name), Cell(FormatDecimal(power.area, 2)),

@@ -22,7 +22,8 @@ std::string ValueText(const Simulation::StoredReflectance& values) {
         return PercentText(values.reflectance);
     }
     return "vidro: TL " + PercentText(values.transmittance) + ", RL " +
-           PercentText(values.reflectanceInside) + " / " + PercentText(values.reflectanceOutside);
+           FormatDecimal(100.0 * values.reflectanceInside, 0) + "/" +
+           PercentText(values.reflectanceOutside);
 }
 
 std::string EstimateText(const SurfaceReflectance& record) {

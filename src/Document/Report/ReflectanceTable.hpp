@@ -7,7 +7,7 @@
 
 namespace Merivane::Document {
 
-/// The value in use: "50 %", or "vidro: TL 80 %, RL 8 % / 8 %" with the reflectances towards the
+/// The value in use: "50 %", or "vidro: TL 80 %, RL 8/8 %" with the reflectances towards the
 /// room and towards outdoors.
 std::string ReflectanceText(const Simulation::SurfaceReflectance& record);
 

@@ -16,7 +16,7 @@ enum class ReportTone { Plain, Muted, Met, NotMet, NoData };
 /// A heading within a section.
 struct ReportHeading {
     std::string text;
-    bool listed = false; ///< stands in the table of contents under its section
+    bool listed = false; ///< of a part that the table of contents names; otherwise smaller
 };
 
 /// A paragraph; notes are small and grey.

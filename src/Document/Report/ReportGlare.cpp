@@ -102,7 +102,7 @@ void AddTerms(const ExplainedRoom& room, std::vector<ReportBlock>& blocks) {
                                         false});
     ReportTable table;
     table.columns = {{"Fonte, centro em x; y; z (m)", 5.0, false},
-                     {"Distância (m)", 1.4, true},
+                     {"Dist. (m)", 1.3, true},
                      {"L (cd/m²)", 1.3, true},
                      {"ω (10⁻³ sr)", 1.4, true},
                      {"p", 0.9, true},
@@ -138,6 +138,7 @@ std::vector<ReportBlock> BuildGlareBlocks(const ReportInput& input, std::size_t 
         return blocks;
     }
     const Simulation::ZoneAnalysis& analysis = input.analyses[zone];
+    blocks.emplace_back(ReportHeading{"Ofuscamento", false});
     for (const std::string& line : Simulation::GlareSummary(analysis)) {
         blocks.emplace_back(ReportParagraph{line, false});
     }

@@ -25,6 +25,7 @@ header p{margin:0;color:var(--cinza);text-transform:uppercase;letter-spacing:.08
 h1{margin:.1em 0 .2em;font-size:1.9rem;line-height:1.2}
 h2{margin:2.4rem 0 .8rem;padding-bottom:.2rem;border-bottom:1px solid var(--linha);font-size:1.35rem}
 h3{margin:2rem 0 .5rem;font-size:1.1rem}
+h3.menor{margin:1.2rem 0 .3rem;font-size:1rem}
 p{margin:.5rem 0}
 .nota{color:var(--cinza);font-size:.85rem}
 nav ol{margin:.4rem 0;padding-left:1.4rem}
@@ -143,10 +144,9 @@ struct HtmlBlocks {
 };
 
 void HtmlBlocks::operator()(const ReportHeading& heading) {
-    html += "<h3";
-    if (heading.listed) {
-        html += " id=\"" + idBegin + std::to_string(++headings) + "\"";
-    }
+    html += "<h3 ";
+    html +=
+        heading.listed ? "id=\"" + idBegin + std::to_string(++headings) + "\"" : "class=\"menor\"";
     html += ">" + Shown(heading.text) + "</h3>\n";
 }
 

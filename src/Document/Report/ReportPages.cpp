@@ -8,6 +8,7 @@
 #include "Document/Report/MovedDrawing.hpp"
 #include "Document/Report/ReportStrips.hpp"
 #include "Document/SheetText.hpp"
+#include "Drawing/TextSize.hpp"
 #include "Simulation/PrintedValue.hpp"
 
 namespace Merivane::Document {
@@ -23,21 +24,22 @@ constexpr double Left = 0.5 * (PaperWidth - TextWidth);
 constexpr double BodyTop = 277.0;
 constexpr double BodyBottom = 20.0;
 constexpr double SmallText = 1.7;
+constexpr double LineText = 2.1;
 
 // Of a page with a drawing.
 constexpr double DrawingMargin = 12.0;
-constexpr double DrawingHead = 17.0; // from the page's top to the title
+constexpr double DrawingHead = 24.0; // running head and caption
 constexpr double DrawingFoot = 15.0;
 constexpr double LeastShrinking = 0.7;
 
 /// The pages as they are filled.
 struct Pages {
     Drawing::PdfBook book;
-    double y = BodyBottom;   ///< foot of what stands on the last page
-    bool isEmpty = true;     ///< nothing stands on the last page yet
-    bool hasUpright = false; ///< the last page takes strips
+    std::size_t current = 0; ///< the page that takes strips; those behind it show drawings
+    double y = 0.0;          ///< foot of what stands on it
+    bool isEmpty = true;     ///< nothing stands on it yet
 
-    DisplayList& Last() { return book.pages.back(); }
+    DisplayList& Current() { return book.pages[current]; }
 };
 
 void OpenPage(Pages& pages, double width, double height) {
@@ -46,9 +48,9 @@ void OpenPage(Pages& pages, double width, double height) {
 
 void OpenUprightPage(Pages& pages) {
     OpenPage(pages, PaperWidth, PaperHeight);
+    pages.current = pages.book.pages.size() - 1;
     pages.y = BodyTop;
     pages.isEmpty = true;
-    pages.hasUpright = true;
 }
 
 void AddElements(DisplayList& page, const std::vector<Drawing::Element>& elements, Point corner) {
@@ -59,8 +61,7 @@ void AddElements(DisplayList& page, const std::vector<Drawing::Element>& element
 
 void AddBookmark(Pages& pages, const ReportStrip& strip) {
     if (strip.bookmark) {
-        pages.book.bookmarks.push_back(
-            {*strip.bookmark, pages.book.pages.size() - 1, strip.bookmarkUnderLast});
+        pages.book.bookmarks.push_back({*strip.bookmark, pages.current, strip.bookmarkUnderLast});
     }
 }
 
@@ -80,30 +81,15 @@ bool Fits(const Pages& pages, double room) {
 
 void PlaceStrip(Pages& pages, const ReportStrip& strip) {
     if (pages.isEmpty) {
-        AddElements(pages.Last(), strip.head, {Left, pages.y});
+        AddElements(pages.Current(), strip.head, {Left, pages.y});
         pages.y -= strip.headHeight;
     } else {
         pages.y -= strip.space;
     }
-    AddElements(pages.Last(), strip.elements, {Left, pages.y});
+    AddElements(pages.Current(), strip.elements, {Left, pages.y});
     AddBookmark(pages, strip);
     pages.y -= strip.height;
     pages.isEmpty = false;
-}
-
-/// Places strips that belong together, on a page of their own kind where they fit on one.
-void PlaceGroup(Pages& pages, const std::vector<ReportStrip>& strips, std::size_t first,
-                std::size_t end) {
-    if (!pages.hasUpright ||
-        (!pages.isEmpty && !Fits(pages, RoomOf(strips, first, end, pages.isEmpty)))) {
-        OpenUprightPage(pages);
-    }
-    for (std::size_t i = first; i < end; ++i) {
-        if (!pages.isEmpty && !Fits(pages, strips[i].space + strips[i].height)) {
-            OpenUprightPage(pages);
-        }
-        PlaceStrip(pages, strips[i]);
-    }
 }
 
 struct PageSize {
@@ -111,53 +97,67 @@ struct PageSize {
     double height;
 };
 
-double ScaleOn(const PageSize& page, const DisplayList& drawing, double head) {
+double ScaleOn(const PageSize& page, const DisplayList& drawing) {
     return std::min({1.0, (page.width - 2.0 * DrawingMargin) / drawing.width,
-                     (page.height - head - DrawingFoot) / drawing.height});
+                     (page.height - DrawingHead - DrawingFoot) / drawing.height});
 }
 
-PageSize ChoosePage(const DisplayList& drawing, double head) {
+PageSize ChoosePage(const DisplayList& drawing) {
     const bool across = drawing.width >= drawing.height;
     const PageSize small = across ? PageSize{297.0, 210.0} : PageSize{210.0, 297.0};
     const PageSize large = across ? PageSize{420.0, 297.0} : PageSize{297.0, 420.0};
-    return ScaleOn(small, drawing, head) >= LeastShrinking ? small : large;
+    return ScaleOn(small, drawing) >= LeastShrinking ? small : large;
 }
 
-/// "Planta", or "Planta (reduzida a 87 % do desenho)".
+/// "Planta", or "Planta (reduzido a 87 %)".
 std::string CaptionText(const ReportStrip& strip, double scale) {
     const std::string percent = Simulation::FormatDecimal(100.0 * scale, 0);
     return percent == "100" ? strip.drawingName
                             : strip.drawingName + " (reduzido a " + percent + " %)";
 }
 
-/// A page with one drawing, behind the headings that lead to it.
-void PlaceDrawing(Pages& pages, const std::vector<ReportStrip>& strips, std::size_t first,
-                  std::size_t last) {
-    constexpr double captionPitch = 5.0;
-    const ReportStrip& strip = strips[last];
-    const double headings = first < last ? RoomOf(strips, first, last, true) : 0.0;
-    const double head = DrawingHead + headings + captionPitch;
-    const PageSize size = ChoosePage(*strip.drawing, head);
+/// Shows a drawing on a page of its own behind all others.
+void AddDrawingPage(Pages& pages, const ReportStrip& strip) {
+    const PageSize size = ChoosePage(*strip.drawing);
+    const double scale = ScaleOn(size, *strip.drawing);
     OpenPage(pages, size.width, size.height);
-    pages.hasUpright = false;
-
-    Point corner{DrawingMargin, size.height - DrawingHead};
-    for (std::size_t i = first; i < last; ++i) {
-        AddElements(pages.Last(), strips[i].elements, corner);
-        AddBookmark(pages, strips[i]);
-        corner.y -= strips[i].height;
-    }
-    const double scale = ScaleOn(size, *strip.drawing, head);
-    const double width = scale * strip.drawing->width;
-    std::vector<Drawing::Element>& elements = pages.Last().layers.front().elements;
-    elements.emplace_back(FittingText(CaptionText(strip, scale), DrawingMargin, corner.y - 3.0,
-                                      size.width - 2.0 * DrawingMargin, {2.1, 1.4},
-                                      Drawing::TextWeight::Bold));
-    const Point lower{0.5 * (size.width - width),
-                      size.height - head - scale * strip.drawing->height};
+    std::vector<Drawing::Element>& elements = pages.book.pages.back().layers.front().elements;
+    elements.emplace_back(
+        FittingText(CaptionText(strip, scale), DrawingMargin, size.height - DrawingHead + 4.0,
+                    size.width - 2.0 * DrawingMargin, {2.4, 1.4}, Drawing::TextWeight::Bold));
+    const Point lower{0.5 * (size.width - scale * strip.drawing->width),
+                      size.height - DrawingHead - scale * strip.drawing->height};
     for (const Drawing::Layer& layer : strip.drawing->layers) {
         for (const Drawing::Element& element : layer.elements) {
             elements.push_back(MovedElement(element, scale, lower));
+        }
+    }
+}
+
+/// The line in the text that leads to the page of a drawing, and that page.
+void PlaceDrawing(Pages& pages, const ReportStrip& strip) {
+    const std::string page = " – página " + std::to_string(pages.book.pages.size() + 1);
+    const double numberWidth = Drawing::MeasureText(page, LineText).width;
+    Drawing::TextRun name = FittingText(strip.drawingName, Left, pages.y + 1.1,
+                                        TextWidth - numberWidth, {LineText, LineText});
+    name.text += page;
+    pages.Current().layers.front().elements.emplace_back(std::move(name));
+    AddDrawingPage(pages, strip);
+}
+
+/// Places strips that belong together, on a page of their own kind where they fit on one.
+void PlaceGroup(Pages& pages, const std::vector<ReportStrip>& strips, std::size_t first,
+                std::size_t end) {
+    if (!pages.isEmpty && !Fits(pages, RoomOf(strips, first, end, false))) {
+        OpenUprightPage(pages);
+    }
+    for (std::size_t i = first; i < end; ++i) {
+        if (!pages.isEmpty && !Fits(pages, strips[i].space + strips[i].height)) {
+            OpenUprightPage(pages);
+        }
+        PlaceStrip(pages, strips[i]);
+        if (strips[i].drawing != nullptr) {
+            PlaceDrawing(pages, strips[i]);
         }
     }
 }
@@ -194,12 +194,10 @@ Drawing::PdfBook LayOutReport(const Report& report) {
     const std::vector<ReportStrip> strips = CutReport(report);
     Pages pages;
     pages.book.title = report.title + " – " + report.subject;
+    OpenUprightPage(pages);
     std::size_t first = 0;
     for (std::size_t i = 0; i < strips.size(); ++i) {
-        if (strips[i].drawing != nullptr) {
-            PlaceDrawing(pages, strips, first, i);
-            first = i + 1;
-        } else if (!strips[i].keepWithNext || i + 1 == strips.size()) {
+        if (!strips[i].keepWithNext || i + 1 == strips.size()) {
             PlaceGroup(pages, strips, first, i + 1);
             first = i + 1;
         }

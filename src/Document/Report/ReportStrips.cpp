@@ -92,13 +92,14 @@ struct BlockCutter {
 };
 
 void BlockCutter::operator()(const ReportHeading& heading) const {
-    std::vector<ReportStrip> lines =
-        HeadingLines(heading.text, {2.6, 5.0, 6.0, TextWeight::Bold, Drawing::Black});
+    const LineStyle style = heading.listed
+                                ? LineStyle{2.7, 5.0, 7.0, TextWeight::Bold, Drawing::Black}
+                                : LineStyle{2.2, 4.6, 3.4, TextWeight::Bold, Drawing::Black};
+    std::vector<ReportStrip> lines = HeadingLines(heading.text, style);
     if (heading.listed) {
         lines.front().bookmark = heading.text;
         lines.front().bookmarkUnderLast = true;
     }
-    lines.back().height += 0.8;
     Append(strips, std::move(lines));
 }
 
@@ -152,6 +153,7 @@ void BlockCutter::operator()(const ReportDrawing& drawing) const {
     ReportStrip strip;
     strip.drawing = &drawing.drawing;
     strip.drawingName = drawing.name;
+    strip.height = BodyPitch;
     strips.push_back(std::move(strip));
 }
 

@@ -23,7 +23,9 @@ struct ReportStrip {
     std::vector<Drawing::Element> elements;
     std::vector<Drawing::Element> head; ///< repeated above it at the head of a page
     double headHeight = 0.0;
-    const Drawing::DisplayList* drawing = nullptr; ///< a page of its own shows it, not owned
+    /// Shown on a page of its own, not owned; the strip then holds no elements but the room for a
+    /// line that tells which page.
+    const Drawing::DisplayList* drawing = nullptr;
     std::string drawingName;
     std::optional<std::string> bookmark; ///< the outline's entry that leads here
     bool bookmarkUnderLast = false;

@@ -19,6 +19,7 @@ constexpr double CellPitch = 3.6;
 constexpr double RowPadding = 1.5;    // of a row, above and below its lines together
 constexpr double Gap = 3.0;           // between columns
 constexpr std::size_t MostLines = 40; // of a strip
+constexpr double RuleWidth = 0.35;    // below the head
 constexpr Color Rule{0.80, 0.81, 0.84, 1.0};
 constexpr Color GroupFill{0.945, 0.95, 0.96, 1.0};
 
@@ -102,10 +103,10 @@ ReportStrip GroupStrip(const ReportCell& cell, double width) {
     const std::vector<std::string> lines =
         WrapText(cell.text, width - 3.0, CellText, TextWeight::Bold);
     strip.height = RowPadding + static_cast<double>(lines.size()) * CellPitch;
-    strip.elements.emplace_back(
-        Drawing::Area{{{{0.0, 0.0}, {width, 0.0}, {width, -strip.height}, {0.0, -strip.height}}},
-                      GroupFill,
-                      0.0});
+    strip.elements.emplace_back(Drawing::Area{
+        {{{0.0, -RuleWidth}, {width, -RuleWidth}, {width, -strip.height}, {0.0, -strip.height}}},
+        GroupFill,
+        0.0});
     double y = -0.5 * RowPadding - 0.5 * (CellPitch + CellText);
     for (const std::string& line : lines) {
         strip.elements.emplace_back(SheetText(line, 1.5, y, CellText, TextWeight::Bold));
@@ -148,7 +149,7 @@ ReportStrip HeadStrip(const ReportTable& table, const Places& places, double wid
     head.space = 2.4;
     head.keepWithNext = true;
     head.height = DrawLines(look, places, 0, head.elements);
-    AddLine(head.elements, -head.height, width, 0.35, Drawing::Black);
+    AddLine(head.elements, -head.height, width, RuleWidth, Drawing::Black);
     return head;
 }
 

@@ -98,9 +98,9 @@ ReportSample OfficeSample() {
         {"nome": "Depósito", "altura": 2.7, "contorno": [[8, 0], [11, 0], [11, 4], [8, 4]]}],
         "luminarias": [
         {"nome": "Painel", "ies": "painel.ies", "posicao": [1, 1.25, 2.7],
-         "matriz": {"x": 4, "y": 2, "passoX": 2, "passoY": 2.5}},
+         "repeticao": {"x": 4, "y": 2, "passoX": 2, "passoY": 2.5}},
         {"nome": "Painel", "ies": "painel.ies", "posicao": [1, 6, 2.7],
-         "matriz": {"x": 4, "y": 2, "passoX": 2, "passoY": 2}, "fatorDeManutencao": 0.7},
+         "repeticao": {"x": 4, "y": 2, "passoX": 2, "passoY": 2}, "fatorDeManutencao": 0.7},
         {"nome": "Spot", "ies": "ponto.ies", "posicao": [9.5, 2, 2.7]}]})");
     sample.study.name = "Escritório Modelo";
     sample.study.zones[1].task.byName = true;
