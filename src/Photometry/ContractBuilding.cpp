@@ -7,6 +7,7 @@
 #include <utility>
 #include <variant>
 
+#include "Photometry/BuiltInSymbols.hpp"
 #include "Photometry/ContractKeywords.hpp"
 #include "Photometry/ContractTable.hpp"
 #include "Photometry/PhotometricQuantities.hpp"
@@ -43,6 +44,10 @@ std::vector<double> FlatCandela(const IesFile& file) {
     return flat;
 }
 
+std::vector<SymbolRow> DefaultSymbolRows() {
+    return BuildSymbolRows(BuiltInSymbol(DefaultPlanSymbol)).rows;
+}
+
 /// Gives a parameter the value that its row's source tells.
 struct ValueGiver {
     const IesFile& file;
@@ -74,11 +79,10 @@ void ValueGiver::operator()(DerivedSource source) const {
         parameter.number = std::max(0.0, TotalFlux(file));
         break;
     case DerivedSource::SymbolCount:
-        parameter.number = static_cast<double>(BuildSymbolRows(FilledCircleSymbol()).rows.size());
+        parameter.number = static_cast<double>(DefaultSymbolRows().size());
         break;
     case DerivedSource::SymbolData:
-        GiveNumbers(SymbolData(BuildSymbolRows(FilledCircleSymbol()).rows), SymbolDataRows,
-                    SymbolDataColumns, parameter);
+        GiveNumbers(SymbolData(DefaultSymbolRows()), SymbolDataRows, SymbolDataColumns, parameter);
         break;
     case DerivedSource::PackedKeywords:
         parameter.texts = PackIesKeywords(file);

@@ -1,7 +1,7 @@
 #include "Photometry/ContractTable.hpp"
 
+#include "Photometry/BuiltInSymbols.hpp"
 #include "Photometry/ContractBuilding.hpp"
-#include "Photometry/PlanSymbol.hpp"
 
 namespace Merivane::Photometry {
 

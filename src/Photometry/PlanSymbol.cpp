@@ -1,47 +1,12 @@
 #include "Photometry/PlanSymbol.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 
 namespace Merivane::Photometry {
 
 namespace {
-
-constexpr std::array<std::string_view, 31> Names = {
-    "Forma real do modelo",
-    "Círculo com X",
-    "Círculo cheio",
-    "Círculo com ponto",
-    "Círculo meio cheio",
-    "Quadrado",
-    "Quadrado com X",
-    "Quadrado com círculo",
-    "Retângulo (tubular)",
-    "Arandela (meio círculo)",
-    "Losango",
-    "Círculo com cruz",
-    "Círculo duplo",
-    "Sol (raios)",
-    "Spot direcional",
-    "Triângulo",
-    "Triângulo cheio",
-    "Hexágono",
-    "Octógono",
-    "Quadrado cheio",
-    "Quadrado meio cheio",
-    "Quadrado com ponto",
-    "Retângulo com X",
-    "Retângulo cheio",
-    "Dois tubos",
-    "Arandela cheia",
-    "Pendente",
-    "Emergência",
-    "Trilho",
-    "Losango cheio",
-    "Estrela",
-};
 
 constexpr double FullTurn = 360.0; // degrees
 constexpr int ChordsOfACircle = 48;
@@ -86,27 +51,6 @@ bool HasItsPoints(const SymbolStroke& stroke) {
 }
 
 } // namespace
-
-std::span<const std::string_view> BuiltInSymbolNames() {
-    return Names;
-}
-
-bool IsBuiltInSymbol(int id) {
-    return id >= 0 && id < static_cast<int>(Names.size());
-}
-
-PlanSymbol FilledCircleSymbol() {
-    SymbolStroke circle;
-    circle.kind = SymbolStrokeKind::Circle;
-    circle.points = {{0.0, 0.0}};
-    circle.radius = 1.0;
-    circle.filled = true;
-    PlanSymbol symbol;
-    symbol.id = DefaultPlanSymbol;
-    symbol.name = Names[DefaultPlanSymbol];
-    symbol.strokes = {circle};
-    return symbol;
-}
 
 bool IsDrawable(const SymbolStroke& stroke) {
     return HasItsPoints(stroke) && std::isfinite(stroke.radius) &&

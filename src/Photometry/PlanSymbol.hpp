@@ -1,8 +1,6 @@
 #pragma once
 
-#include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace Merivane::Photometry {
@@ -38,21 +36,6 @@ struct PlanSymbol {
 
     bool operator==(const PlanSymbol&) const = default;
 };
-
-/// Identifier of "no symbol": the plan of the luminaire's model stays.
-inline constexpr int NoPlanSymbol = 0;
-
-/// Identifier of the built-in symbol that a new luminaire gets.
-inline constexpr int DefaultPlanSymbol = 2;
-
-/// Names of the built-in symbols; the index is the identifier, the first is "no symbol".
-std::span<const std::string_view> BuiltInSymbolNames();
-
-/// True for the identifiers that the built-in symbols have.
-bool IsBuiltInSymbol(int id);
-
-/// The symbol `DefaultPlanSymbol`: a filled circle.
-PlanSymbol FilledCircleSymbol();
 
 /// True when a stroke has the points of its kind (a polygon three or more), a radius above 0 where
 /// it has one, and finite numbers only. Others are drawn and stored nowhere.

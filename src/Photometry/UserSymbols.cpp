@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "Photometry/BuiltInSymbols.hpp"
 #include "Text/Ascii.hpp"
 #include "Text/Number.hpp"
 
@@ -237,6 +238,15 @@ std::string FormatUserSymbols(const UserSymbols& symbols) {
         }
     }
     return text;
+}
+
+std::vector<PlanSymbol> SymbolLibrary(const UserSymbols& symbols) {
+    std::vector<PlanSymbol> library = BuiltInSymbols();
+    for (PlanSymbol& symbol : library) {
+        symbol.hidden = symbols.hiddenBuiltIns.contains(symbol.id);
+    }
+    library.insert(library.end(), symbols.symbols.begin(), symbols.symbols.end());
+    return library;
 }
 
 } // namespace Merivane::Photometry

@@ -36,4 +36,8 @@ UserSymbols ParseUserSymbols(std::string_view text);
 /// form has no sign for it; line breaks in a name become blanks.
 std::string FormatUserSymbols(const UserSymbols& symbols);
 
+/// All symbols that a project's luminaires can be given: the built-in ones, with "no symbol" first
+/// and those marked that the user removed, then the user's own.
+std::vector<PlanSymbol> SymbolLibrary(const UserSymbols& symbols);
+
 } // namespace Merivane::Photometry

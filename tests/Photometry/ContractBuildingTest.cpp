@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Photometry/BuiltInSymbols.hpp"
 #include "Photometry/ContractReading.hpp"
 #include "Photometry/LuminaireIdentity.hpp"
 #include "Photometry/PhotometricQuantities.hpp"
@@ -176,7 +177,7 @@ TEST(BuildContract, KeepsTheTablesAsTheyWereRead) {
 
 TEST(BuildContract, CarriesTheDrawingOfTheFilledCircle) {
     const List list = BuildContract({}, {});
-    const std::vector<SymbolRow> rows = BuildSymbolRows(FilledCircleSymbol()).rows;
+    const std::vector<SymbolRow> rows = BuildSymbolRows(BuiltInSymbol(DefaultPlanSymbol)).rows;
     EXPECT_EQ(Named(list, "mvSymbolCount").number, 49);
     EXPECT_EQ(Named(list, "mvSymbolData").numbers, SymbolData(rows));
     EXPECT_EQ(Named(list, "mvSymbolData").numbers.size(), 1536U);

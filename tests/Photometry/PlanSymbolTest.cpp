@@ -19,64 +19,9 @@ SymbolStroke Arc(double radius, double begin, double end) {
             .filled = true};
 }
 
-TEST(BuiltInSymbolNames, StandInTheOrderOfTheirIdentifiers) {
-    const std::vector<std::string_view> expected = {
-        "Forma real do modelo",
-        "Círculo com X",
-        "Círculo cheio",
-        "Círculo com ponto",
-        "Círculo meio cheio",
-        "Quadrado",
-        "Quadrado com X",
-        "Quadrado com círculo",
-        "Retângulo (tubular)",
-        "Arandela (meio círculo)",
-        "Losango",
-        "Círculo com cruz",
-        "Círculo duplo",
-        "Sol (raios)",
-        "Spot direcional",
-        "Triângulo",
-        "Triângulo cheio",
-        "Hexágono",
-        "Octógono",
-        "Quadrado cheio",
-        "Quadrado meio cheio",
-        "Quadrado com ponto",
-        "Retângulo com X",
-        "Retângulo cheio",
-        "Dois tubos",
-        "Arandela cheia",
-        "Pendente",
-        "Emergência",
-        "Trilho",
-        "Losango cheio",
-        "Estrela",
-    };
-    const auto names = BuiltInSymbolNames();
-    EXPECT_EQ(std::vector<std::string_view>(names.begin(), names.end()), expected);
-}
-
-TEST(IsBuiltInSymbol, IsTrueFromNoSymbolToTheStar) {
-    EXPECT_FALSE(IsBuiltInSymbol(-1));
-    EXPECT_TRUE(IsBuiltInSymbol(NoPlanSymbol));
-    EXPECT_TRUE(IsBuiltInSymbol(30));
-    EXPECT_FALSE(IsBuiltInSymbol(31));
-}
-
-TEST(FilledCircleSymbol, FillsTheUnitCircle) {
-    const PlanSymbol symbol = FilledCircleSymbol();
-    EXPECT_EQ(symbol.id, 2);
-    EXPECT_EQ(symbol.name, "Círculo cheio");
-    EXPECT_FALSE(symbol.hidden);
-    ASSERT_EQ(symbol.strokes.size(), 1U);
-    const SymbolStroke expected = {
-        .kind = Kind::Circle, .points = {{0, 0}}, .radius = 1, .filled = true};
-    EXPECT_EQ(symbol.strokes[0], expected);
-}
-
 TEST(OutlinePoints, HaveFortyEightChordsOnACircle) {
-    const std::vector<SymbolPoint> points = OutlinePoints(FilledCircleSymbol().strokes[0]);
+    const std::vector<SymbolPoint> points =
+        OutlinePoints({.kind = Kind::Circle, .points = {{0, 0}}, .radius = 1});
     ASSERT_EQ(points.size(), 48U);
     for (std::size_t i = 0; i < points.size(); ++i) {
         const double angle = 2.0 * M_PI * static_cast<double>(i) / 48.0;

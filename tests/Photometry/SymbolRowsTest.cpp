@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "Photometry/BuiltInSymbols.hpp"
+
 namespace Merivane::Photometry {
 namespace {
 
@@ -66,7 +68,7 @@ TEST(BuildSymbolRows, MakesAPolygonOfAFilledCircleOrArc) {
 }
 
 TEST(BuildSymbolRows, DrawsTheFilledCircleInFortyNineRows) {
-    const Rows rows = BuildSymbolRows(FilledCircleSymbol()).rows;
+    const Rows rows = BuildSymbolRows(BuiltInSymbol(DefaultPlanSymbol)).rows;
     ASSERT_EQ(rows.size(), 49U);
     EXPECT_EQ(rows[0], (SymbolRow{4, 48, 0, 0, 0, 0}));
     for (std::size_t i = 1; i < rows.size(); ++i) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Photometry/BuiltInSymbols.hpp"
 #include "Photometry/SymbolRows.hpp"
 
 namespace Merivane::Photometry {
@@ -191,6 +192,23 @@ TEST(UserSymbols, DrawTheSameAfterWritingAndReading) {
         EXPECT_EQ(back.nextId, 1001);
         EXPECT_EQ(ParseUserSymbols(FormatUserSymbols(back)), back);
     }
+}
+
+TEST(SymbolLibrary, HoldsTheBuiltInSymbolsThenTheUsersOwn) {
+    const std::vector<PlanSymbol> library = SymbolLibrary(Sample());
+    ASSERT_EQ(library.size(), 33U);
+    for (const PlanSymbol& symbol : library) {
+        EXPECT_EQ(symbol.hidden, symbol.id == 3 || symbol.id == 17) << symbol.name;
+    }
+    EXPECT_EQ(library[0].id, NoPlanSymbol);
+    EXPECT_EQ(library[30].name, "Estrela");
+    EXPECT_EQ(library[31], Sample().symbols[0]);
+    EXPECT_EQ(library[32], Sample().symbols[1]);
+}
+
+TEST(SymbolLibrary, IsTheBuiltInOneForATextOfAnotherForm) {
+    EXPECT_EQ(SymbolLibrary(ParseUserSymbols("MVSYMBOLS 2\nhidden 1\nsymbol 1001 a\nC 0 0 1\n")),
+              BuiltInSymbols());
 }
 
 TEST(UserSymbols, AreReadFromATextCutAnywhere) {
