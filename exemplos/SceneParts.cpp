@@ -68,9 +68,9 @@ JsonValue BeginDocument(const std::string& name) {
     return document;
 }
 
-void EndDocument(JsonValue& document, const std::vector<double>& levels) {
+void EndDocument(JsonValue& document, const char* profile, const std::vector<double>& levels) {
     JsonValue engine;
-    engine.Set("perfil", JsonValue::MakeString("projeto"));
+    engine.Set("perfil", JsonValue::MakeString(profile));
     document.Set("motor", std::move(engine));
     document.Set("niveis", NumberList(levels));
 }

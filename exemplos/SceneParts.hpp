@@ -29,11 +29,12 @@ Catalog::JsonValue WithColourRendering(Catalog::JsonValue luminaire, double inde
 /// A Zone from the floor z = 0 up, its activity suggested by its name.
 Catalog::JsonValue Zone(const std::string& name, const std::vector<Point>& outline, double height);
 
-/// A document of this name, with the profile "projeto" and these levels [lux]; its other lists are
-/// to be set, in the order in which they shall stand.
+/// A document of this name; its lists are to be set, in the order in which they shall stand.
 Catalog::JsonValue BeginDocument(const std::string& name);
 
-/// Sets the engine and the levels, which stand last.
-void EndDocument(Catalog::JsonValue& document, const std::vector<double>& levels);
+/// Sets the profile of the engine ("rapido", "projeto" or "final") and the levels [lux], which
+/// stand last.
+void EndDocument(Catalog::JsonValue& document, const char* profile,
+                 const std::vector<double>& levels);
 
 } // namespace Merivane::Examples
