@@ -52,6 +52,17 @@ add_library(TestFlags INTERFACE)
 target_link_libraries(TestFlags INTERFACE VantoroFlags)
 target_compile_options(TestFlags INTERFACE $<$<CONFIG:Release>:-O1>)
 
+# The standard containers are compiled once for all libraries, but only under the sanitizers: the
+# other builds see to it that each source includes what it uses.
+if(VANTORO_SANITIZE)
+    add_library(StandardHeaders STATIC "${PROJECT_SOURCE_DIR}/cmake/StandardHeaders.cpp")
+    target_link_libraries(StandardHeaders PRIVATE VantoroFlags)
+    target_precompile_headers(StandardHeaders PRIVATE
+        <algorithm> <array> <charconv> <chrono> <cmath> <cstdint> <filesystem> <functional> <limits>
+        <map> <memory> <numeric> <optional> <set> <span> <string> <string_view> <utility> <variant>
+        <vector>)
+endif()
+
 # vantoro_library(NAME library...): the static library of the current folder, or an interface
 # library where the folder holds headers only. What it links is what it may include.
 function(vantoro_library name)
@@ -60,6 +71,9 @@ function(vantoro_library name)
         add_library(${name} STATIC ${sources})
         target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
         target_link_libraries(${name} PUBLIC HostAbi ${ARGN} PRIVATE VantoroFlags)
+        if(VANTORO_SANITIZE)
+            target_precompile_headers(${name} REUSE_FROM StandardHeaders)
+        endif()
     else()
         add_library(${name} INTERFACE)
         target_include_directories(${name} INTERFACE "${PROJECT_SOURCE_DIR}/src")
