@@ -174,6 +174,31 @@ TEST_F(LayoutOfAFloor, HoldsASlantingLineInPartsAndALineOfTheSiteByItsSides) {
     EXPECT_EQ(layout.zones[0].summary, free.zones[0].summary);
 }
 
+TEST_F(LayoutOfAFloor, MeasuresTextsInTheScaleOfTheResults) {
+    const FloorLayout free = LayOut(100.0);
+    Workbench::ProjectElement& note = AddHatch(0, 0);
+    note.element.header.type = ElementType::Text;
+    Host::TextData text; // beside the summary in 1:100, on it in the scale of the results
+    text.position = {free.zones[0].summary.x - 3.0, free.zones[0].summary.y - 1.0};
+    note.element.data = text;
+    note.memo = {};
+    note.memo.paragraphs = {{"Observação", {{10, 1, 2.0, false}}, {}}};
+    Reopen();
+    EXPECT_EQ(LayOut(100.0).zones[0].summary, free.zones[0].summary);
+    Open().planScale = 10.0;
+    options.scale = 100.0;
+    Prepare();
+    std::vector<const ZoneDrawing*> pointers = {&drawings[0], &drawings[1], &drawings[2]};
+    EXPECT_EQ(LayOutFloor(0, pointers, options, structure).zones[0].summary, free.zones[0].summary);
+    text.position.x = free.zones[0].summary.x - 0.5;
+    Open().elements.front().element.data = text;
+    Reopen();
+    Prepare();
+    const FloorLayout moved = LayOutFloor(0, pointers, options, structure);
+    EXPECT_FALSE(Meet(Blocks(moved)[0], {{text.position.x, text.position.y},
+                                         {text.position.x + 1.8, text.position.y + 0.2}}));
+}
+
 TEST_F(LayoutOfAFloor, GoesOnWhateverTheHostDoesNotTell) {
     const FloorLayout free = LayOut(100.0);
     AddHatch(60, 60);

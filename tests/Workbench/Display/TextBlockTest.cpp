@@ -50,6 +50,16 @@ TEST(TextBlock, StandsWithItsAnchorAtThePosition) {
     }
 }
 
+TEST(TextBlock, GivesAnEmptyParagraphTheHeightOfItsStretch) {
+    Host::TextData text;
+    text.anchor = TextAnchor::LeftTop;
+    text.size = 5.0;
+    const auto runs =
+        LayOutText(text, {{"", {{0, 1, 1.8, false}}, {}}, Plain("b", 1, 2.0)}, {0, 0});
+    ASSERT_EQ(runs.size(), 1U);
+    EXPECT_NEAR(runs[0].position.y, -1.8 - TextLineStep * 2.0, Near);
+}
+
 TEST(TextBlock, StepsFromLineToLineByTheHigherOnesSize) {
     Host::TextData text;
     text.anchor = TextAnchor::LeftTop;
