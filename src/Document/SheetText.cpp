@@ -58,6 +58,9 @@ Drawing::TextRun SheetText(std::string_view text, double x, double y, double hei
 
 std::vector<std::string> WrapText(std::string_view text, double width, double height,
                                   Drawing::TextWeight weight) {
+    if (Fits(text, width, height, weight)) { // most texts of a table: one measurement does
+        return {std::string(text)};
+    }
     std::vector<std::string> lines;
     while (!text.empty()) {
         const std::size_t length = LineLength(text, width, height, weight);

@@ -39,6 +39,7 @@ th,td{padding:.35rem .5rem;border-bottom:1px solid var(--linha);text-align:left;
 overflow-wrap:break-word;min-width:4rem}
 thead th{border-bottom:2px solid var(--tinta);vertical-align:bottom}
 th.n,td.n{text-align:right;font-variant-numeric:tabular-nums;min-width:3rem}
+td.n{white-space:nowrap}
 th.grupo{background:var(--fundo);font-weight:600}
 .fraco{color:var(--cinza)}
 .atende{color:#0d7326}
