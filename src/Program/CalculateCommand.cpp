@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
-#include <set>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -12,7 +11,6 @@
 #include "AddOn/Entry/EntryPoints.hpp"
 #include "AddOn/RunLog/RunLog.hpp"
 #include "Archicad/FloorPlanDatabase.hpp"
-#include "Document/ResultDocument.hpp"
 #include "Host/Stories.hpp"
 #include "Program/CalculationAnswers.hpp"
 #include "Program/CalculationFiles.hpp"
@@ -28,6 +26,7 @@
 #include "Text/Utf8.hpp"
 #include "Workbench/DialogRun.hpp"
 #include "Workbench/Project/GuidSource.hpp"
+#include "Workbench/Project/ProjectFile.hpp"
 #include "Workbench/Session.hpp"
 
 namespace Merivane::Program {
@@ -102,6 +101,12 @@ bool PrepareOutput(CalculateRun& run) {
         std::filesystem::absolute(run.projectTarget, code).parent_path();
     if (!std::filesystem::is_directory(parent, code)) {
         run.error = "não foi possível gravar \"" + run.projectTarget + "\": a pasta não existe";
+        return false;
+    }
+    Workbench::Project replaced; // saving refuses to replace what is no project, but late
+    if (!run.arguments.saveAs.empty() && std::filesystem::exists(run.projectTarget, code) &&
+        !Workbench::ReadProject(Text::Widen(run.projectTarget), replaced, run.error)) {
+        run.error.insert(0, "--salvar-como: ");
         return false;
     }
     run.madeFolder = !std::filesystem::exists(run.outputFolder, code);

@@ -1,5 +1,6 @@
 #include "Program/HostedRun.hpp"
 
+#include <cstdio>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -31,6 +32,7 @@ void TellReport(const Workbench::ReportLine& line, const HostOutput& output) {
         TellError(WithoutProductName(line.text));
     } else if (!output.silent) {
         TellLine(line.text);
+        std::fflush(stdout); // a long run is watched, through a pipe too
     }
 }
 

@@ -170,8 +170,25 @@ TEST_F(CalculateRefusals, RefusesFilesThatItCanNotReadOrWrite) {
               "vantoro: não foi possível criar a pasta \"p.vantoro\".\n");
     EXPECT_EQ(Run({"--salvar-como", "sem/pasta.vantoro"}).error,
               "vantoro: não foi possível gravar \"sem/pasta.vantoro\": a pasta não existe.\n");
+    WriteBytes(folder.Path() / "carta.txt", "Prezados");
+    const ProgramEnd letter = Run({"--salvar-como", "carta.txt"});
+    EXPECT_TRUE(letter.error.starts_with("vantoro: --salvar-como: \"carta.txt\": "))
+        << letter.error;
+    EXPECT_EQ(ReadBytes(folder.Path() / "carta.txt"), "Prezados");
     EXPECT_EQ(Run({"--respostas", "nenhum.json"}).error,
               "vantoro: não foi possível ler \"nenhum.json\".\n");
+    ExpectNothingWritten();
+}
+
+TEST_F(CalculateRefusals, LeavesTheProjectAsItWasWhereAResultCanNotBeWritten) {
+    std::filesystem::create_directories(folder.Path() / "r" / "relatorio.html");
+    std::vector<std::string> options = Quick;
+    options.insert(options.end(), {"--saida", "r"});
+    const ProgramEnd end = Run(options);
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error, "vantoro: não foi possível gravar \"r/relatorio.html\" (disco cheio ou "
+                         "sem permissão); nada foi gravado.\n");
+    EXPECT_FALSE(std::filesystem::exists(folder.Path() / "r" / "resultado.json"));
     ExpectNothingWritten();
 }
 

@@ -72,9 +72,12 @@ struct SharedCalculation : SmallCalculation {
     SharedCalculation() {
         before = ReadBytes(folder.Path() / "p.vantoro");
         for (const std::string name : {"a", "b"}) {
-            ends.push_back(Run({"--zonas", "01", "--salvar-como", name + ".vantoro", "--saida",
-                                name, "--atividade", "01=s1.1", "--norma", "iso", "--escala", "50",
-                                "--niveis", "20; 60", "--valores", "0,5", "--paleta", "cinza"}));
+            ends.push_back(Run({"--zonas",       "01",     "--salvar-como", name + ".vantoro",
+                                "--saida",       name,     "--atividade",   "01=s1.1",
+                                "--norma",       "iso",    "--escala",      "50",
+                                "--niveis",      "20; 60", "--valores",     "0,5",
+                                "--paleta",      "cinza",  "--plano",       "0,8",
+                                "--afastamento", "0,1",    "--faixa",       "0,3"}));
         }
         saved = ReadSample(folder.Path() / "a.vantoro");
     }
@@ -147,6 +150,32 @@ TEST(CalculateCommand, DrawsWhatTheOptionsAskFor) {
     const std::string result = ReadBytes(Shared().folder.Path() / "a" / "resultado.json");
     EXPECT_TRUE(Holds(result, "s1.1")) << result.substr(0, 2000);
     EXPECT_TRUE(Holds(ReadBytes(Shared().folder.Path() / "a.vantoro"), "≥ 60")); // the legend
+}
+
+TEST(CalculateCommand, LaysThePointsAsTheOptionsAskFor) {
+    const SharedCalculation& run = Shared();
+    EXPECT_TRUE(Holds(ReadBytes(run.folder.Path() / "a" / "Sala.csv"),
+                      "x;y;z;lux;tarefa\r\n0,100;0,100;0,800;"));
+    const std::string project = ReadBytes(run.folder.Path() / "a.vantoro");
+    EXPECT_TRUE(Holds(project, "Plano de trabalho a 0,80 m: Em "));
+    EXPECT_TRUE(Holds(project, "Faixa de borda de 0,30 m junto às paredes"));
+    EXPECT_TRUE(Holds(project, "Verificação  —  ISO/CIE 8995-1:2002"));
+}
+
+TEST(CalculateCommand, CalculatesTheSelectedZonesAndKeepsTheSelection) {
+    const SmallCalculation run;
+    Workbench::Project project = SmallProject();
+    for (const Workbench::ProjectElement& element : project.elements) {
+        const auto* const zone = std::get_if<Host::ZoneData>(&element.element.data);
+        if (zone && zone->number == "02") {
+            project.selection = {element.element.header.guid};
+        }
+    }
+    SaveSample(run.folder.Path() / "p.vantoro", project);
+    EXPECT_TRUE(Holds(run.Run({}).output, "Vantoro: Depósito: Em "));
+    const ProgramEnd all = run.Run({"--zonas", "*"});
+    EXPECT_TRUE(Holds(all.output, "Vantoro: calculo: 3 zona(s), ")) << all.output << all.error;
+    EXPECT_EQ(ReadSample(run.folder.Path() / "p.vantoro").selection, project.selection);
 }
 
 TEST(CalculateCommand, LeavesTheUsersProfileAsItWas) {
