@@ -99,8 +99,8 @@ Strokes DrawSun() {
 }
 
 Strokes DrawSpot() {
-    return {Circle(0.45), Line(0.45, 0, 0.58, 0),
-            Filled(Outline({{0.97, 0}, {0.58, 0.22}, {0.58, -0.22}}))};
+    return {Circle(0.48), Line(0.48, 0, 0.66, 0),
+            Filled(Outline({{1, 0}, {0.66, 0.22}, {0.66, -0.22}}))};
 }
 
 Strokes DrawHalfSquare() {
@@ -120,21 +120,13 @@ Strokes DrawEmergency() {
             Line(-0.28, 0, 0.22, 0), Line(-0.28, -0.42, 0.32, -0.42)};
 }
 
-// The rail's two lines stop at its lights, so that they do not run through where no fill is set.
 Strokes DrawTrack() {
-    constexpr double end = 0.98;
-    constexpr double rail = 0.1; // half its width
-    constexpr double light = 0.25;
-    const double clear = std::sqrt(light * light - rail * rail);
-    Strokes strokes = {Line(-end, -rail, -end, rail), Line(end, -rail, end, rail)};
-    double from = -end;
-    for (const double x : {-0.62, 0.0, 0.62, end + clear}) {
-        strokes.push_back(Line(from, rail, x - clear, rail));
-        strokes.push_back(Line(from, -rail, x - clear, -rail));
-        from = x + clear;
-    }
-    for (const double x : {-0.62, 0.0, 0.62}) {
-        strokes.push_back(Filled(Circle(light, {x, 0})));
+    constexpr double top = 0.32;
+    constexpr double bottom = 0.08;
+    Strokes strokes = {Outline({{-0.94, bottom}, {0.94, bottom}, {0.94, top}, {-0.94, top}})};
+    for (const double x : {-0.6, 0.0, 0.6}) {
+        strokes.push_back(Line(x, bottom, x, -0.14));
+        strokes.push_back(Filled(Circle(0.24, {x, -0.38})));
     }
     return strokes;
 }

@@ -1,0 +1,55 @@
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "Drawing/PngWriter.hpp"
+#include "Gdl/SymbolSheet.hpp"
+#include "Photometry/BuiltInSymbols.hpp"
+#include "Photometry/SymbolRows.hpp"
+#include "Support/Places.hpp"
+
+// The page of the plan symbols, held to their drawings. With VANTORO_REWRITE_SYMBOLS set its table
+// and picture are made anew.
+namespace Merivane {
+namespace {
+
+const std::string Picture = "simbolos.png";
+
+std::filesystem::path DocumentsFolder() {
+    return Tests::SourceFolder() / "docs";
+}
+
+std::string SymbolTable() {
+    std::string table = "| Símbolo | Nome | Linhas de dados |\n|---|---|---|\n";
+    for (const Photometry::PlanSymbol& symbol : Photometry::BuiltInSymbols()) {
+        const std::size_t rows = Photometry::BuildSymbolRows(symbol).rows.size();
+        table += "| " + std::to_string(symbol.id) + " | " + symbol.name + " | " +
+                 std::to_string(rows) + " |\n";
+    }
+    return table;
+}
+
+TEST(SymbolPage, ShowsEverySymbol) {
+    const std::string mark = "<!-- symbols -->\n";
+    const std::filesystem::path file = DocumentsFolder() / "simbolos.md";
+    std::string page = Tests::ReadBytes(file);
+    const std::size_t found = page.find(mark);
+    ASSERT_NE(found, std::string::npos);
+    const std::size_t begin = found + mark.size();
+    std::string png;
+    std::string error;
+    ASSERT_TRUE(Drawing::WritePng(Tests::BuildSymbolSheet(), png, error)) << error;
+    if (std::getenv("VANTORO_REWRITE_SYMBOLS") != nullptr) {
+        Tests::WriteBytes(DocumentsFolder() / Picture, png);
+        Tests::WriteBytes(file, page.substr(0, begin) + SymbolTable());
+        return;
+    }
+    EXPECT_EQ(page.substr(begin), SymbolTable());
+    EXPECT_NE(page.find("](" + Picture + ")"), std::string::npos);
+    EXPECT_TRUE(std::filesystem::exists(DocumentsFolder() / Picture));
+}
+
+} // namespace
+} // namespace Merivane
