@@ -50,7 +50,8 @@ TEST(RemoveGeneratedBlock, TakesOneLineEndBehindTheMarker) {
     };
     for (const auto& [behind, left] : cases) {
         SCOPED_TRACE(::testing::PrintToString(behind));
-        EXPECT_EQ(RemoveGeneratedBlock(Start + "\n" + End + behind), left);
+        std::string script = Start + "\n" + End;
+        EXPECT_EQ(RemoveGeneratedBlock(script += behind), left);
     }
 }
 
@@ -80,8 +81,10 @@ TEST(RemoveGeneratedBlock, KnowsItsOwnMarkersAlone) {
 
 TEST(RemoveGeneratedBlock, TakesABlockThatTheRemovalPutTogether) {
     for (std::size_t cut = 0; cut < Start.size(); ++cut) {
-        const std::string split = Start.substr(0, cut) + Block("1\r\n") + Start.substr(cut);
-        EXPECT_EQ(RemoveGeneratedBlock("a" + split + "\r\n" + End + "\r\nb"), "ab") << cut;
+        std::string script = "a" + Start;
+        script.insert(1 + cut, Block("1\r\n"));
+        script.append("\r\n").append(End).append("\r\nb");
+        EXPECT_EQ(RemoveGeneratedBlock(script), "ab") << cut;
     }
 }
 

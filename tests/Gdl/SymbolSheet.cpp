@@ -104,8 +104,10 @@ Drawing::DisplayList BuildSymbolSheet() {
     sheet.height = 2 * Margin + rows * CellHeight;
     Drawing::Layer layer = {"Símbolos", {}};
     for (int i = 0; i < drawn; ++i) {
-        const Drawing::Point corner = {Margin + i % Columns * CellWidth,
-                                       sheet.height - Margin - (i / Columns + 1) * CellHeight};
+        const int row = i / Columns;
+        const int column = i % Columns;
+        const Drawing::Point corner = {Margin + column * CellWidth,
+                                       sheet.height - Margin - (row + 1) * CellHeight};
         DrawCell(symbols[static_cast<std::size_t>(i) + 1], corner, layer.elements);
     }
     sheet.layers.push_back(std::move(layer));

@@ -141,9 +141,10 @@ TEST(BuiltInSymbol, HasRegularPolygons) {
         ASSERT_EQ(symbol.strokes.size(), 1U);
         EXPECT_EQ(symbol.strokes[0].kind, Kind::Polygon);
         ASSERT_EQ(symbol.strokes[0].points.size(), corners);
+        const std::vector<SymbolPoint>& points = symbol.strokes[0].points;
         const auto side = [&](std::size_t i) {
-            const SymbolPoint& a = symbol.strokes[0].points[i];
-            const SymbolPoint& b = symbol.strokes[0].points[(i + 1) % corners];
+            const SymbolPoint& a = points[i];
+            const SymbolPoint& b = points[(i + 1) % points.size()];
             return std::hypot(b.x - a.x, b.y - a.y);
         };
         for (std::size_t i = 1; i < corners; ++i) {
