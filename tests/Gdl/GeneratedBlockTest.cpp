@@ -50,8 +50,9 @@ TEST(RemoveGeneratedBlock, TakesOneLineEndBehindTheMarker) {
     };
     for (const auto& [behind, left] : cases) {
         SCOPED_TRACE(::testing::PrintToString(behind));
-        std::string script = Start + "\n" + End;
-        EXPECT_EQ(RemoveGeneratedBlock(script += behind), left);
+        std::string script = Start;
+        script.append("\n").append(End).append(behind);
+        EXPECT_EQ(RemoveGeneratedBlock(script), left);
     }
 }
 
