@@ -106,14 +106,14 @@ void AddAxes(ProjectBuilder& builder) {
     for (const std::int16_t floorIndex : {std::int16_t{0}, std::int16_t{1}}) {
         const Drawer drawer{builder, {LayerOf(builder, "Eixos"), floorIndex}, {}};
         char name = 'A';
-        for (const double x : {0.0, 8.0, 18.0}) {
+        for (const double x : {0.0, 12.0, 18.0}) {
             drawer.Line({x, -1.6}, {x, 11.6}, 11, dashDot);
             drawer.WholeCircle({x, Rounded(-1.6 - Bubble)}, Bubble, 10);
             drawer.Label(std::string(1, name++), {x, Rounded(-1.6 - Bubble)},
                          Host::TextAnchor::Middle, 2.5);
         }
         name = '1';
-        for (const double y : {0.0, 3.0, 10.0}) {
+        for (const double y : {0.0, 6.0, 10.0}) {
             drawer.Line({-1.6, y}, {19.6, y}, 11, dashDot);
             drawer.WholeCircle({Rounded(-1.6 - Bubble), y}, Bubble, 10);
             drawer.Label(std::string(1, name++), {Rounded(-1.6 - Bubble), y},

@@ -13,8 +13,8 @@ namespace {
 using Host::ElementType;
 using Workbench::GivenBody;
 
-constexpr double Quarter = std::numbers::pi / 2.0;
-
+// Furniture in the Zones ends below 0.73 m, so that no point of a work plane at 0.75 m lies in it
+// and nobody looks out of a cupboard.
 struct Furniture {
     ProjectBuilder& builder;
     Place place{};
@@ -49,29 +49,29 @@ struct Furniture {
         const Host::AttributeIndex wood = Surface("Madeira");
         const Host::AttributeIndex metal = Surface("Metal");
         return Part("Mesa 160 x 70", 1.6, 0.7,
-                    {BoxBody({{-0.8, -0.35, 0.71}, {0.8, 0.35, 0.74}}, wood),
-                     BoxBody({{-0.76, -0.3, 0.0}, {-0.72, 0.3, 0.71}}, metal),
-                     BoxBody({{0.72, -0.3, 0.0}, {0.76, 0.3, 0.71}}, metal)});
+                    {BoxBody({{-0.8, -0.35, 0.69}, {0.8, 0.35, 0.72}}, wood),
+                     BoxBody({{-0.76, -0.3, 0.0}, {-0.72, 0.3, 0.69}}, metal),
+                     BoxBody({{0.72, -0.3, 0.0}, {0.76, 0.3, 0.69}}, metal)});
     }
 
     std::int32_t Chair() const {
         const Host::AttributeIndex fabric = Surface("Carpete");
         return Part("Cadeira", 0.5, 0.5,
                     {BoxBody({{-0.23, -0.23, 0.43}, {0.23, 0.23, 0.48}}, fabric),
-                     BoxBody({{-0.21, -0.25, 0.5}, {0.21, -0.2, 0.9}}, fabric),
+                     BoxBody({{-0.21, -0.25, 0.5}, {0.21, -0.2, 0.7}}, fabric),
                      BoxBody({{-0.04, -0.04, 0.0}, {0.04, 0.04, 0.43}}, Surface("Metal"))});
     }
 
     std::int32_t MeetingTable() const {
         return Part("Mesa de reunião", 2.6, 1.1,
-                    {BoxBody({{-1.3, -0.55, 0.71}, {1.3, 0.55, 0.75}}, Surface("Madeira")),
-                     BoxBody({{-0.9, -0.1, 0.0}, {0.9, 0.1, 0.71}}, Surface("Metal"))});
+                    {BoxBody({{-1.3, -0.55, 0.68}, {1.3, 0.55, 0.72}}, Surface("Madeira")),
+                     BoxBody({{-0.9, -0.1, 0.0}, {0.9, 0.1, 0.68}}, Surface("Metal"))});
     }
 
     // Nobody has given it a surface.
     std::int32_t Cupboard() const {
-        return Part("Armário", 0.8, 0.45,
-                    {BoxBody({{-0.4, -0.225, 0.0}, {0.4, 0.225, 1.6}}, Host::AttributeIndex{})});
+        return Part("Armário baixo", 0.8, 0.45,
+                    {BoxBody({{-0.4, -0.225, 0.0}, {0.4, 0.225, 0.7}}, Host::AttributeIndex{})});
     }
 
     std::int32_t Sofa() const {
@@ -131,8 +131,8 @@ void AddOfficeFurniture(ProjectBuilder& builder) {
         ground.Workplace(desk, chair, {x, 7.8}, false);
         ground.Workplace(desk, chair, {x, 8.55}, true);
     }
-    for (const double y : {3.4, 4.25, 5.1}) {
-        ground.Put(cupboard, {11.7, y}, Quarter);
+    for (const double x : {7.8, 8.65, 9.5}) { // they part the desks from the meeting room
+        ground.Put(cupboard, {x, 4.3});
     }
     ground.Put(table, {9.5, 8.0});
     for (const double x : {8.7, 9.5, 10.3}) {

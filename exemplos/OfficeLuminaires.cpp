@@ -24,25 +24,27 @@ constexpr double Quarter = std::numbers::pi / 2.0;
 constexpr const char* Diffuser = "Difusor opalino";
 constexpr const char* Housing = "Chapa branca";
 
-/// What makes one type: its file, its flange, its body.
+/// What makes one type: its file, its flange, its body, what its maker tells.
 struct LuminaireType {
     std::string iesFile;
     double flangeDepth = 0.0; ///< below the part's origin [m]
     double sizeA = 0.0;
     double sizeB = 0.0;
     std::vector<GivenBody> bodies;
+    double colourRendering =
+        0.0; ///< where the file does not tell it; 0 = the maker does not either
 };
 
-Photometry::IesFile PhotometryOf(const std::string& iesFile) {
+Photometry::IesFile PhotometryOf(const LuminaireType& type) {
     Photometry::IesFile file;
     for (const SampleLuminaire& sample : BuildSampleLuminaires()) {
-        if (sample.fileName == iesFile) {
+        if (sample.fileName == type.iesFile) {
             file = sample.photometry;
         }
     }
     Photometry::LuminaireIdentity identity = Photometry::IdentityFromIes(file);
     if (identity.colourRendering == 0.0) {
-        identity.colourRendering = 80.0;
+        identity.colourRendering = type.colourRendering;
         Photometry::ApplyIdentityToIes(identity, file);
     }
     return file;
@@ -54,7 +56,7 @@ std::vector<LibraryParameter> ContractOf(const LuminaireType& type) {
     settings.flangeDepth = type.flangeDepth;
     std::vector<LibraryParameter> parameters;
     for (const Photometry::ContractParameter& parameter :
-         Photometry::BuildContract(PhotometryOf(type.iesFile), settings)) {
+         Photometry::BuildContract(PhotometryOf(type), settings)) {
         Archicad::ToAddPar(parameter, parameters.emplace_back());
         if (parameter.name == "mvLuminousFlux") { // the sum's last digits differ between systems
             parameters.back().number = std::round(parameters.back().number);
@@ -64,7 +66,7 @@ std::vector<LibraryParameter> ContractOf(const LuminaireType& type) {
 }
 
 std::int32_t AddType(ProjectBuilder& builder, LuminaireType type) {
-    const Photometry::IesFile file = PhotometryOf(type.iesFile);
+    const Photometry::IesFile file = PhotometryOf(type);
     Workbench::ProjectPart part;
     part.name = Photometry::IdentityFromIes(file).luminaire;
     part.mainGuid = Workbench::NextGuid(builder.guids);
@@ -150,7 +152,8 @@ private:
 
 void AddOfficeLuminaires(ProjectBuilder& builder) {
     const std::int32_t panel = AddType(
-        builder, {"painel-antiofuscante.ies", 0.005, 0.6, 0.6, {LampBox(0.6, 0.6, -0.005, 0.06)}});
+        builder,
+        {"painel-antiofuscante-34.ies", 0.005, 0.6, 0.6, {LampBox(0.6, 0.6, -0.005, 0.06)}});
     const std::int32_t downlight =
         AddType(builder, {"downlight.ies",
                           0.003,
@@ -158,40 +161,40 @@ void AddOfficeLuminaires(ProjectBuilder& builder) {
                           0.17,
                           {CylinderBody(0.085, -0.003, 0.1, Diffuser, Housing)}});
     const std::int32_t linear =
-        AddType(builder, {"linear-asa.ies", 0.0, 1.2, 0.07, {LampBox(1.2, 0.07, 0.0, 0.08)}});
+        AddType(builder, {"linear-asa.ies", 0.0, 1.2, 0.07, {LampBox(1.2, 0.07, 0.0, 0.08)}, 80.0});
     const std::int32_t pendant =
         AddType(builder, {"pendente-duplo.ies", 0.0, 1.5, 0.1, {LampBox(1.5, 0.1, 0.0, 0.06)}});
     const std::int32_t washer =
-        AddType(builder, {"lavador.ies", 0.0, 0.6, 0.08, {LampBox(0.6, 0.08, 0.0, 0.08)}});
+        AddType(builder, {"lavador.ies", 0.0, 0.6, 0.08, {LampBox(0.6, 0.08, 0.0, 0.08)}, 80.0});
 
     Placer placer(builder);
     const Placing office = {panel, 0, CeilingHeight, 0.0, "C1"};
-    placer.PutGrid(office, {1.2, 3.3, 5.4, 7.5, 9.6, 11.1}, {1.5, 4.5});
-    placer.PutGrid(office, {1.2, 2.6, 5.8}, {7.2});
-    placer.PutGrid(office, {1.2, 3.5}, {9.0});
-    Workbench::ProjectElement& off = placer.Put(office, {5.8, 9.0});
+    placer.PutGrid(office, {1.3, 3.6, 5.9, 8.3, 10.8}, {1.5, 4.5});
+    placer.PutGrid(office, {1.3, 5.7}, {7.2});
+    placer.PutGrid(office, {1.3, 3.5, 5.7}, {8.9});
+    Workbench::ProjectElement& off = placer.Put(office, {3.5, 7.2});
     placer.Override(off, "mvLightOn").number = 0.0;
 
-    const Placing meeting = {pendant, 0, 2.2, 0.0, "C2"};
-    placer.PutGrid(meeting, {8.6, 10.4}, {7.5});
-    placer.Put(meeting, {8.6, 8.5});
-    Workbench::ProjectElement& dimmed = placer.Put(meeting, {10.4, 8.5});
+    const Placing meeting = {pendant, 0, 2.3, Quarter, "C2"};
+    placer.PutGrid(meeting, {7.95, 11.05}, {7.95});
+    Workbench::ProjectElement& dimmed = placer.Put(meeting, {9.5, 7.95});
     placer.Override(dimmed, "mvDimming").number = 0.6;
-    const Placing walls = {washer, 0, 2.9, -Quarter, "C2"};
-    placer.Put(walls, {7.35, 7.0});
+
+    placer.PutGrid({downlight, 0, CeilingHeight, 0.0, "C3"}, {12.54}, {1.3, 3.7, 6.1, 8.5});
+
+    const Placing walls = {washer, 0, 2.8, Quarter, "C3"}; // towards the hall's west wall
+    placer.Put(walls, {13.35, 4.4});
     // A table that was cut off: the angles tell of more values than there are.
-    Workbench::ProjectElement& broken = placer.Put(walls, {7.35, 9.0});
+    Workbench::ProjectElement& broken = placer.Put(walls, {13.35, 6.0});
     LibraryParameter& table = placer.Override(broken, "mvCandela");
     table.dim1 -= 1;
     table.numbers.resize(static_cast<std::size_t>(table.dim1) *
                          static_cast<std::size_t>(table.dim2));
 
-    placer.PutGrid({downlight, 0, CeilingHeight, 0.0, "C3"}, {12.54}, {1.3, 3.7, 6.1, 8.5});
-
     const Placing upper = {linear, 1, 2.6, Quarter, "C4"};
-    placer.PutGrid(upper, {2.4, 6.4, 10.4}, {1.4});
-    placer.PutGrid(upper, {2.4, 6.4}, {3.6});
-    Workbench::ProjectElement& alsoOff = placer.Put(upper, {10.4, 3.6});
+    placer.PutGrid(upper, {2.4, 6.4, 10.4}, {1.0, 2.5});
+    placer.PutGrid(upper, {2.4, 6.4}, {4.0});
+    Workbench::ProjectElement& alsoOff = placer.Put(upper, {10.4, 4.0});
     placer.Override(alsoOff, "mvLightOn").number = 0.0;
 
     const Placing hall = {panel, 1, CeilingHeight, 0.0, "C5"};

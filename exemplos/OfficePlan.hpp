@@ -14,6 +14,9 @@ inline constexpr double CeilingHeight = 2.6; ///< of the false ceilings
 inline constexpr Host::Coordinate ShaftLow = {3.4, 5.4};
 inline constexpr Host::Coordinate ShaftHigh = {4.6, 6.6};
 
+/// Of the one column of each floor, in the hall: where work is done nothing stands in the light.
+inline constexpr Host::Coordinate ColumnFoot = {13.55, 7.75};
+
 /// The hole for the stair in the upper slab.
 inline constexpr Host::Coordinate StairLow = {13.9, 1.9};
 inline constexpr Host::Coordinate StairHigh = {15.3, 7.3};

@@ -86,8 +86,8 @@ void AddOfficeZones(ProjectBuilder& builder) {
             {Rectangle({4.7, 5.05}, {12.98, 9.9})});
 
     Simulation::ZoneRequirementMap tasks;
-    tasks[Host::GuidText(office)] = {"s22.2", 500.0, 0.6, Simulation::ScreensClass3};
-    tasks[Host::GuidText(meeting)] = {"s22.5", 300.0, 0.7, Simulation::ScreensNone};
+    tasks[Host::GuidText(office)] = {"s22.2", 500.0, 0.6, Simulation::ScreensAutomatic};
+    tasks[Host::GuidText(meeting)] = {"s22.5", 300.0, 0.6, Simulation::ScreensNone};
     constexpr std::uint16_t WindowsSign = 0x5757;
     builder.project.data[std::string(Simulation::ZoneTasksName)] = {
         1, WindowsSign,

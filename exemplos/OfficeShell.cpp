@@ -150,7 +150,14 @@ struct Shell {
                                                {18.1, -0.1},
                                                {18.1, 10.1},
                                                {-0.1, 10.1}});
-        Slab(0, 0.0, 0.15, {outline}, "Piso cerâmico", "Concreto");
+        // Joints under the inner walls: the floor of each room is its own.
+        const Host::Contour office = Outline(
+            {{-0.1, -0.1}, {12.0, -0.1}, {12.0, 6.0}, {7.0, 6.0}, {7.0, 10.1}, {-0.1, 10.1}});
+        for (const Host::Contour& room :
+             {office, Rectangle({7.0, 6.0}, {12.0, 10.1}), Rectangle({12.0, -0.1}, {13.08, 10.1}),
+              Rectangle({13.08, -0.1}, {18.1, 10.1})}) {
+            Slab(0, 0.0, 0.15, {room}, "Piso cerâmico", "Concreto");
+        }
         Slab(1, 0.0, FloorHeight - RoomHeight, {notched, Rectangle(StairLow, StairHigh), shaft},
              "Carpete", "Pintura branca");
         Slab(1, FloorHeight, FloorHeight - RoomHeight, {outline, shaft}, "Concreto",
@@ -177,7 +184,7 @@ struct Shell {
 
     void Columns() const {
         constexpr double Plinth = 0.15;
-        const Coordinate foot = {8.0, 3.0};
+        const Coordinate foot = ColumnFoot;
         for (const std::int16_t floorIndex : {std::int16_t{0}, std::int16_t{1}}) {
             std::vector<Workbench::ElementPart> parts;
             parts.push_back(MakePart(
@@ -198,12 +205,13 @@ struct Shell {
 
     void Beam() const {
         std::vector<Workbench::ElementPart> parts;
-        const std::vector<std::pair<double, double>> spans = {{0.1, 8.0}, {8.0, 11.95}};
+        const std::vector<std::pair<double, double>> spans = {{0.1, ColumnFoot.y},
+                                                              {ColumnFoot.y, 9.9}};
         parts.reserve(spans.size());
         for (const auto& [from, to] : spans) {
             parts.push_back(MakePart(builder, ElementType::BeamSegment,
-                                     Workbench::BarGeometry{{from, 3.0, RoomHeight},
-                                                            {to, 3.0, RoomHeight},
+                                     Workbench::BarGeometry{{ColumnFoot.x, from, RoomHeight},
+                                                            {ColumnFoot.x, to, RoomHeight},
                                                             0.2,
                                                             0.35,
                                                             Surface("Concreto")}));

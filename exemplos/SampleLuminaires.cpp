@@ -121,6 +121,16 @@ SampleLuminaire LouvredOfficePanel() {
     return sample;
 }
 
+// The same panel with more light.
+SampleLuminaire BrightLouvredOfficePanel() {
+    SampleLuminaire sample = Begin("painel-antiofuscante-34.ies", "PA60A",
+                                   "Painel Antiofuscante 600 Alto Fluxo", "LED 34 W 4000 K", 34.0);
+    sample.photometry.keywords.emplace_back("_RA", "90");
+    SetOpening(sample.photometry, 0.57, 0.57, 0.0);
+    FillTable(sample.photometry, LouvredPanel, FinelyBelow, Quadrant, 4000.0);
+    return sample;
+}
+
 SampleLuminaire LinearBatwing() {
     SampleLuminaire sample =
         Begin("linear-asa.ies", "LN12", "Linear Asa 1200", "LED 26 W 4000 K", 26.0);
@@ -225,10 +235,19 @@ SampleLuminaire OldestPlafond() {
 
 std::vector<SampleLuminaire> BuildSampleLuminaires() {
     return {
-        RoundDownlight(),     OldRoundDownlight(),   OfficePanel(),
-        LouvredOfficePanel(), LinearBatwing(),       LinearWallwasher(),
-        OvalSpot(),           IndirectPendant(),     DirectIndirectPendant(),
-        LampedHighBay(),      LampedTrofferInFeet(), AccentedSconce(),
+        RoundDownlight(),
+        OldRoundDownlight(),
+        OfficePanel(),
+        LouvredOfficePanel(),
+        BrightLouvredOfficePanel(),
+        LinearBatwing(),
+        LinearWallwasher(),
+        OvalSpot(),
+        IndirectPendant(),
+        DirectIndirectPendant(),
+        LampedHighBay(),
+        LampedTrofferInFeet(),
+        AccentedSconce(),
         OldestPlafond(),
     };
 }

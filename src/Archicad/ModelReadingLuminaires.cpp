@@ -15,6 +15,7 @@
 #include "Host/GuidText.hpp"
 #include "Host/Stories.hpp"
 #include "Photometry/ContractReading.hpp"
+#include "Photometry/LuminaireIdentity.hpp"
 #include "Photometry/LuminaireTypeKey.hpp"
 #include "Simulation/LinearLuminaire.hpp"
 #include "Text/Number.hpp"
@@ -86,6 +87,10 @@ void TakeParameters(const Parameters& parameters, const Host::Guid& guid, bool i
     luminaire.lamp = TextOf(parameters, "mvLamp");
     luminaire.inputWatts = NumberOf(parameters, "mvInputWatts", luminaire.photometry.inputWatts);
     luminaire.contract = Photometry::ReadLuminaireSettings(parameters);
+    if (luminaire.contract.colourRendering == 0.0) { // only parts made earlier have it there
+        luminaire.contract.colourRendering =
+            Photometry::ColourRenderingFromIes(luminaire.photometry);
+    }
     luminaire.dimming = std::clamp(NumberOf(parameters, "mvDimming", 1.0), 0.0, 1.0);
     const std::string name = NameOf(parameters, guid);
     luminaire.typeKey =

@@ -137,9 +137,9 @@ TEST(OfficeProject, KeepsTheActivitiesOfItsFirstZones) {
     ASSERT_EQ(tasks.size(), 2U);
     const std::vector<ZoneRecord> zones = Archicad::ReadAllZones();
     EXPECT_EQ(tasks.at(Archicad::ZoneKey(zones[0].guid)),
-              (Simulation::ZoneRequirement{"s22.2", 500.0, 0.6, Simulation::ScreensClass3}));
+              (Simulation::ZoneRequirement{"s22.2", 500.0, 0.6, Simulation::ScreensAutomatic}));
     EXPECT_EQ(tasks.at(Archicad::ZoneKey(zones[1].guid)),
-              (Simulation::ZoneRequirement{"s22.5", 300.0, 0.7, Simulation::ScreensNone}));
+              (Simulation::ZoneRequirement{"s22.5", 300.0, 0.6, Simulation::ScreensNone}));
 }
 
 /// The luminaire that has a value of its own for this parameter.
@@ -180,19 +180,31 @@ TEST(OfficeProject, HasFortyLuminairesOfWhichThirtySixShine) {
     EXPECT_EQ(dimmed, 1);
 }
 
+TEST(OfficeProject, DeclaresTheColourRenderingOfAllTypesButOne) {
+    OpenOffice();
+    std::vector<Host::Guid> guids;
+    std::vector<std::string> log;
+    std::map<std::string, double> declared; // by catalogue code
+    for (const auto& luminaire : Archicad::CollectLuminaires({0, 1}, guids, log)) {
+        declared[luminaire.displayName] = luminaire.contract.colourRendering;
+    }
+    EXPECT_EQ(declared, (std::map<std::string, double>{
+                            {"PA60A", 90}, {"PD15", 85}, {"LN12", 80}, {"LV06", 80}, {"DL15", 0}}));
+}
+
 TEST(OfficeProject, HangsItsPanelsInTheFalseCeilings) {
     OpenOffice();
     std::vector<Host::Guid> guids;
     std::vector<std::string> log;
     int panels = 0;
     for (const auto& luminaire : Archicad::CollectLuminaires({0, 1}, guids, log)) {
-        if (luminaire.displayName == "PA60") {
+        if (luminaire.displayName == "PA60A") {
             ++panels;
             const double level = luminaire.z > 3.2 ? 3.2 : 0.0;
             EXPECT_NEAR(luminaire.z, level + 2.6 - 0.005, 1e-12); // less its flange
         }
     }
-    EXPECT_EQ(panels, 20); // one is off, one of a later contract
+    EXPECT_EQ(panels, 18); // one is off, one of a later contract
 }
 
 /// What `CollectGeometry` gives for the Zones of one floor.
@@ -228,14 +240,14 @@ TEST(OfficeProject, TellsWhatWasReadOfEachFloor) {
     EXPECT_EQ(CollectFloor(0).log,
               (std::vector<std::string>{
                   "nenhuma Zona selecionada: calculando todas as 3 do pavimento atual",
-                  "geometria: 104 elemento(s), 1793 face(s) (48 com aberturas), 13 superficie(s)",
+                  "geometria: 107 elemento(s), 1813 face(s) (48 com aberturas), 13 superficie(s)",
                   "1 elemento(s) do proprio Vantoro (camadas \"Vantoro - ...\") fora da cena",
                   "36" + byOrientation,
                   "1 elemento(s) em camada oculta ou travada ficaram fora da cena"}));
     EXPECT_EQ(CollectFloor(1).log,
               (std::vector<std::string>{
                   "nenhuma Zona selecionada: calculando todas as 2 do pavimento atual",
-                  "geometria: 65 elemento(s), 959 face(s) (34 com aberturas), 12 superficie(s)",
+                  "geometria: 65 elemento(s), 959 face(s) (34 com aberturas), 11 superficie(s)",
                   "1 elemento(s) do proprio Vantoro (camadas \"Vantoro - ...\") fora da cena",
                   "18" + byOrientation}));
 }
@@ -262,18 +274,61 @@ TEST(OfficeProject, SurfacesHaveTheAreasThatItsMeasuresTell) {
     // and a back.
     const double carpet = 18.2 * 10.2 - 4.2 * 0.2 - 1.4 * 5.4 - 1.0 * 1.0;
     const double seat = 2 * 0.46 * 0.46 + 4 * 0.46 * 0.05;
-    const double back = 2 * (0.42 * 0.05 + 0.05 * 0.4 + 0.42 * 0.4);
+    const double back = 2 * (0.42 * 0.05 + 0.05 * 0.2 + 0.42 * 0.2);
     EXPECT_NEAR(ground.Area("sup:Carpete"), carpet + 29 * (seat + back), Near);
 
-    // Six cupboards without a surface: three stand on the ground floor.
-    EXPECT_NEAR(ground.Area("orientacao:piso"), 3 * 0.8 * 0.45, Near);
-    EXPECT_NEAR(ground.Area("orientacao:teto"), 9 * 0.8 * 0.45, Near);
-    EXPECT_NEAR(ground.Area("orientacao:parede"), 6 * 2 * (0.8 + 0.45) * 1.6, Near);
+    // Six low cupboards without a surface: three stand on the ground floor, below its work plane.
+    EXPECT_NEAR(ground.Area("orientacao:piso"), 6 * 0.8 * 0.45, Near);
+    EXPECT_NEAR(ground.Area("orientacao:teto"), 6 * 0.8 * 0.45, Near);
+    EXPECT_NEAR(ground.Area("orientacao:parede"), 6 * 2 * (0.8 + 0.45) * 0.7, Near);
 
     // Two planes of the roof, each 19.2 by 5.6 m in plan.
     const Model upper = CollectFloor(1);
     EXPECT_NEAR(upper.Area("sup:Telha"), 2 * 19.2 * 5.6 / std::cos(0.174533), 1e-4);
     EXPECT_EQ(upper.Area("sup:Piso cerâmico"), -1.0);
+}
+
+/// True when a vertical through `point` meets the triangle; `height` is where [m].
+bool MeetsVertical(const Simulation::SceneSurface& triangle, const Simulation::Point2D& point,
+                   double& height) {
+    const auto& a = triangle.vertices[0];
+    const auto& b = triangle.vertices[1];
+    const auto& c = triangle.vertices[2];
+    const double area = (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
+    if (std::abs(area) < 1e-12) {
+        return false;
+    }
+    const double s = ((point.x - a.x) * (c.y - a.y) - (c.x - a.x) * (point.y - a.y)) / area;
+    const double t = ((b.x - a.x) * (point.y - a.y) - (point.x - a.x) * (b.y - a.y)) / area;
+    height = a.z + s * (b.z - a.z) + t * (c.z - a.z);
+    return s >= 0.0 && t >= 0.0 && s + t <= 1.0;
+}
+
+TEST(OfficeProject, HasNothingOnOrAboveTheWorkPlanesButCeilings) {
+    constexpr double Spacing = 0.1;
+    for (const std::int16_t floorIndex : {std::int16_t{0}, std::int16_t{1}}) {
+        const Model model = CollectFloor(floorIndex);
+        std::vector<std::string> log;
+        for (const ZoneRecord& zone : Archicad::CollectZones(log)) {
+            SCOPED_TRACE(zone.name);
+            Simulation::GridSettings settings;
+            settings.spacing = Spacing;
+            const Simulation::CalculationGrid grid = Simulation::BuildCalculationGrid(
+                {zone.outline, zone.holes}, zone.baseLevel, settings);
+            int blocked = 0;
+            for (const Simulation::Point2D& point : Simulation::ActivePoints(grid)) {
+                for (const Simulation::SceneSurface& surface : model.scene.surfaces) {
+                    double height = 0.0;
+                    blocked += MeetsVertical(surface, point, height) &&
+                                       height > zone.baseLevel + 0.73 &&
+                                       height < zone.baseLevel + 2.55
+                                   ? 1
+                                   : 0;
+                }
+            }
+            EXPECT_EQ(blocked, 0);
+        }
+    }
 }
 
 TEST(OfficeProject, LeavesEarlierResultsAndHiddenLayersOutOfTheModel) {
