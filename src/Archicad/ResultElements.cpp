@@ -100,6 +100,7 @@ bool DrawText(ResultSheet& sheet, AttributeIndex layer, const PlacedText& text) 
     data.position = {text.position.x, text.position.y};
     data.anchor = text.anchor;
     data.size = text.height;
+    data.opaque = text.opaque;
     data.pen = ResultPen;
     Host::ElementMemo memo;
     memo.paragraphs.push_back(ParagraphOf({{{text.text, text.height}}, {}}));

@@ -37,6 +37,7 @@ struct PlacedText {
     Simulation::Point2D position; ///< [m]
     double height = 2.0;          ///< of capitals [mm on paper]
     Host::TextAnchor anchor = Host::TextAnchor::LeftBottom;
+    bool opaque = false; ///< stands on lines or colours
 };
 
 /// An area of one colour, without contour.

@@ -41,7 +41,7 @@ std::int32_t NodeStep(double spacing, double step) {
 
 PlacedText CurveText(const IsoCurve& curve, Point2D position) {
     return {Simulation::CurveLabelText(curve.level), position, CurveTextHeight,
-            Host::TextAnchor::Middle};
+            Host::TextAnchor::Middle, true};
 }
 
 bool IsClear(const std::vector<Bounds2D>& boxes, const Bounds2D& box) {
@@ -102,7 +102,8 @@ std::optional<PlacedText> PlaceOutlineText(const std::vector<IsoCurve>& outline,
     return PlacedText{Simulation::TaskLimitText,
                       {top->x + RightOfOutline, top->y + OverOutline * millimetre},
                       OutlineTextHeight,
-                      Host::TextAnchor::LeftBottom};
+                      Host::TextAnchor::LeftBottom,
+                      true};
 }
 
 std::vector<PlacedText> PlaceValueTexts(const Simulation::ZoneDrawing& drawing,

@@ -171,7 +171,8 @@ struct TextData {
     double size = 2.0; ///< height of capitals on paper [mm]
     std::int32_t pen = 1;
     bool bold = false;
-    double width = 0.0; ///< of the text's box on paper [mm]; 0 = as wide as its longest line
+    double width = 0.0;  ///< of the text's box on paper [mm]; 0 = as wide as its longest line
+    bool opaque = false; ///< on a white ground, so that what lies below does not run through it
 
     bool operator==(const TextData&) const = default;
 };

@@ -85,6 +85,7 @@ TEST_F(DrawnZone, HasItsCurvesAsPolylinesWithTheirLevels) {
     EXPECT_EQ(label.size, 2.0);
     EXPECT_EQ(label.anchor, Host::TextAnchor::Middle);
     EXPECT_EQ(label.angle, 0.0);
+    EXPECT_TRUE(label.opaque); // else its curve would cross it out
 }
 
 TEST_F(DrawnZone, LeavesAnOpenCurveOpen) {

@@ -166,10 +166,8 @@ void AppendRecommendations(const ZoneAnalysis& analysis, const Columns& columns,
 }
 
 void AppendLines(const ZoneDrawing& drawing, Paragraphs& paragraphs) {
-    double height = HeadHeight;
     for (const std::string& line : ZoneSummaryLines(drawing)) {
-        paragraphs.push_back(Paragraph(line, height));
-        height = LineHeight;
+        paragraphs.push_back(Paragraph(line, LineHeight));
     }
 }
 

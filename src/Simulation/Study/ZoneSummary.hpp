@@ -31,8 +31,7 @@ struct SummaryParagraph {
 };
 
 /// Lines of the result summary: the plane with Em, Emin, Emax, U0, then the border band, glare,
-/// floor, screens and the Zone's other notes, each with the mark of its note. The first is the
-/// head.
+/// floor, screens and the Zone's other notes, each with the mark of its note.
 std::vector<std::string> ZoneSummaryLines(const ZoneDrawing& drawing);
 
 /// The whole summary: title; blank; the verification's table and its result, or that the Zone has

@@ -17,6 +17,8 @@ namespace {
 using Host::TextParagraph;
 using Host::TextStretch;
 
+constexpr double GroundReach = 0.3; // of the ground of an opaque text, in heights of capitals
+
 // Letters of one look that stay together.
 struct Piece {
     std::string text;
@@ -200,6 +202,7 @@ std::vector<Drawing::TextRun> LayOutText(const Host::TextData& text,
                                    {position.x + x * cosine - line.base * sine,
                                     position.y + x * sine + line.base * cosine},
                                    text.angle));
+            runs.back().halo = text.opaque ? GroundReach * piece.look.size : 0.0;
         }
     }
     return runs;

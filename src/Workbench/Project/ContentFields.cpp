@@ -91,6 +91,7 @@ void DataKeys(auto& fields, Is<Host::TextData> auto& text) {
     fields.May("caneta", text.pen, 1, Pens);
     fields.May("negrito", text.bold, false);
     fields.May("largura", text.width, 0.0, Lengths);
+    fields.May("fundo", text.opaque, false);
 }
 
 void DataKeys(auto& fields, Is<Host::MorphData> auto& morph) {

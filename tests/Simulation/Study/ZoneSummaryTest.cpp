@@ -58,7 +58,7 @@ TEST(BuildZoneSummary, TellsAZoneWithoutActivityInPlainWords) {
     EXPECT_EQ(lines, (std::vector<std::string>{
                          "3.2b Sala 1", "blank 1.8", "2.8 Sala 1:   Em 500 lx   U0 0,60",
                          "2.4 sem atividade definida na Zona: sem verificação",
-                         "3.2 Plano de trabalho a 0,75 m: Em 500 lx, Emin 300 lx, Emax 701 lx, U0 "
+                         "2.4 Plano de trabalho a 0,75 m: Em 500 lx, Emin 300 lx, Emax 701 lx, U0 "
                          "0,60 (96 pontos)  [1] [2]",
                          "2.4 Faixa de borda de 0,50 m junto às paredes fora das estatísticas "
                          "(linha tracejada na planta)  [2]"}));
@@ -106,7 +106,7 @@ TEST(BuildZoneSummary, TellsTheVerificationThenTheLinesThenTheSurfaces) {
                                        lines.begin() + static_cast<std::ptrdiff_t>(head.size())),
               head);
     EXPECT_EQ(std::vector<std::string>(tailBegin, lines.end()), tail);
-    EXPECT_EQ(lines[head.size()], "3.2 " + ZoneSummaryLines(FullDrawing())[0]);
+    EXPECT_EQ(lines[head.size()], "2.4 " + ZoneSummaryLines(FullDrawing())[0]);
     EXPECT_EQ(lines[head.size() + 1], "2.4 " + ZoneSummaryLines(FullDrawing())[1]);
 }
 

@@ -50,6 +50,13 @@ TEST(TextBlock, StandsWithItsAnchorAtThePosition) {
     }
 }
 
+TEST(TextBlock, KeepsWhatIsBelowOffAnOpaqueText) {
+    Host::TextData text;
+    EXPECT_EQ(LayOutText(text, {Plain("Sala", 4)}, {0, 0})[0].halo, 0.0);
+    text.opaque = true;
+    EXPECT_NEAR(LayOutText(text, {Plain("Sala", 4, 3.0)}, {0, 0})[0].halo, 0.9, Near);
+}
+
 TEST(TextBlock, GivesAnEmptyParagraphTheHeightOfItsStretch) {
     Host::TextData text;
     text.anchor = TextAnchor::LeftTop;
