@@ -10,6 +10,7 @@
 #include "Drawing/TextLayout.hpp"
 #include "Drawing/TextSize.hpp"
 #include "Text/Number.hpp"
+#include "Text/XmlText.hpp"
 
 // Written by hand, not by Cairo's SVG surface: that one turns texts into outlines, knows no layers
 // and numbers its groups by a counter of the process, so that no two files are alike.
@@ -20,26 +21,7 @@ namespace {
 using Merivane::Text::FormatFixed;
 
 std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (char c : CleanText(text)) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        default:
-            escaped += c;
-        }
-    }
-    return escaped;
+    return Text::EscapeXml(CleanText(text));
 }
 
 // Thousandths of a millimetre, without zeros at the end.

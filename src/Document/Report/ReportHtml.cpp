@@ -8,6 +8,7 @@
 #include "Drawing/SvgWriter.hpp"
 #include "Text/ShownText.hpp"
 #include "Text/Utf8.hpp"
+#include "Text/XmlText.hpp"
 
 namespace Merivane::Document {
 
@@ -59,35 +60,9 @@ pre{font-size:6.5pt;background:none;padding:0}*{-webkit-print-color-adjust:exact
 print-color-adjust:exact}}
 )css";
 
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        case '\'':
-            escaped += "&#39;";
-            break;
-        default:
-            escaped += c;
-        }
-    }
-    return escaped;
-}
-
 /// A text from anywhere as the content of an element.
 std::string Shown(std::string_view text) {
-    return Escaped(Merivane::Text::ShownText(text));
+    return Text::EscapeXml(Merivane::Text::ShownText(text));
 }
 
 /// A line of a record: its blanks stay, everything else as `Shown`.
