@@ -175,10 +175,7 @@ void AddOfficeLuminaires(ProjectBuilder& builder) {
     Workbench::ProjectElement& off = placer.Put(office, {3.5, 7.2});
     placer.Override(off, "mvLightOn").number = 0.0;
 
-    const Placing meeting = {pendant, 0, 2.3, Quarter, "C2"};
-    placer.PutGrid(meeting, {7.95, 11.05}, {7.95});
-    Workbench::ProjectElement& dimmed = placer.Put(meeting, {9.5, 7.95});
-    placer.Override(dimmed, "mvDimming").number = 0.6;
+    placer.PutGrid({pendant, 0, 2.3, 0.0, "C2"}, {8.15, 10.85}, {6.95, 8.95});
 
     placer.PutGrid({downlight, 0, CeilingHeight, 0.0, "C3"}, {12.54}, {1.3, 3.7, 6.1, 8.5});
 
@@ -192,15 +189,17 @@ void AddOfficeLuminaires(ProjectBuilder& builder) {
                          static_cast<std::size_t>(table.dim2));
 
     const Placing upper = {linear, 1, 2.6, Quarter, "C4"};
-    placer.PutGrid(upper, {2.4, 6.4, 10.4}, {1.0, 2.5});
-    placer.PutGrid(upper, {2.4, 6.4}, {4.0});
-    Workbench::ProjectElement& alsoOff = placer.Put(upper, {10.4, 4.0});
+    placer.PutGrid(upper, {2.4, 6.4, 10.4}, {1.4});
+    placer.Put(upper, {6.4, 3.6});
+    Workbench::ProjectElement& dimmed = placer.Put(upper, {2.4, 3.6});
+    placer.Override(dimmed, "mvDimming").number = 0.6;
+    Workbench::ProjectElement& alsoOff = placer.Put(upper, {10.4, 3.6});
     placer.Override(alsoOff, "mvLightOn").number = 0.0;
 
     const Placing hall = {panel, 1, CeilingHeight, 0.0, "C5"};
-    placer.PutGrid(hall, {6.8, 10.8}, {6.4});
-    placer.Put(hall, {6.8, 8.6});
-    Workbench::ProjectElement& newer = placer.Put(hall, {10.8, 8.6});
+    placer.PutGrid(hall, {6.0, 8.8, 11.6}, {6.4});
+    placer.PutGrid(hall, {6.0, 8.8}, {8.6});
+    Workbench::ProjectElement& newer = placer.Put(hall, {11.6, 8.6});
     placer.Override(newer, "mvContractVersion").number = 8.0;
 
     const Placing void2 = {downlight, 1, RoomHeight, 0.0, "C6"};
