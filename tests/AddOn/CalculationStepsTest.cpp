@@ -282,6 +282,10 @@ TEST_F(CalculationSteps, TellOfViewsThatCannotBeMade) {
                              "Vantoro: Criar a Vista da simulacao failed: APIERR_GENERAL "
                              "(0x81060001)"),
                   1);
+        EXPECT_EQ(std::count_if(
+                      report.begin(), report.end(),
+                      [](const std::string& line) { return line.find(" failed: ") != line.npos; }),
+                  1); // no view is tried without its combination
         EXPECT_FALSE(Tells("Vista da simulacao criada"));
         EXPECT_TRUE(report.back().starts_with("Vantoro: resultados nas camadas "));
         EXPECT_GT(CountOn("Vantoro - Legenda", 0), 0);
@@ -299,7 +303,7 @@ TEST_F(CalculationSteps, LeaveCombinationsAsTheUserSetThem) {
         }
     }
     const auto users = combinations;
-    Run();
+    EXPECT_EQ(Run().end, CalculationEnd::Done);
     EXPECT_TRUE(CurrentSession().project.combinations == users);
 }
 
