@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 #include "Archicad/FloorPlanDatabase.hpp"
 #include "Archicad/LayerCombinations.hpp"
@@ -18,7 +19,29 @@ using Host::View;
 
 constexpr std::size_t LongestName = 255; // units of UTF-16
 
-// Stories may share a name, so of several views the floor's own comes first.
+std::string StoryName(const std::vector<Host::Story>& stories, std::int16_t floorIndex) {
+    const auto found =
+        std::find_if(stories.begin(), stories.end(),
+                     [floorIndex](const Host::Story& story) { return story.index == floorIndex; });
+    return found != stories.end() ? found->name : std::string();
+}
+
+// The views but for those of stories that share this one's name, and so the names of its views.
+// Stories that the host does not tell share none.
+std::vector<View> WithoutNamesakes(const std::vector<View>& views, std::int16_t floorIndex) {
+    std::vector<Host::Story> stories;
+    std::int16_t activeFloor = 0;
+    Host::GetStories(stories, activeFloor);
+    const std::string name = StoryName(stories, floorIndex);
+    std::vector<View> left;
+    std::copy_if(views.begin(), views.end(), std::back_inserter(left), [&](const View& view) {
+        return view.floorIndex == floorIndex || name.empty() ||
+               StoryName(stories, view.floorIndex) != name;
+    });
+    return left;
+}
+
+// Of several views the floor's own comes first.
 const View* FindFloorView(const std::vector<View>& views, std::int16_t floorIndex,
                           std::string_view name) {
     const View* found = nullptr;
@@ -62,6 +85,7 @@ ErrorCode EnsureFloorView(std::int16_t floorIndex, std::string_view name,
     if (const ErrorCode code = Host::ListViews(views)) {
         return code;
     }
+    views = WithoutNamesakes(views, floorIndex);
     const std::string cutName = Text::TruncateUtf16(name, LongestName);
     const View* const found = FindFloorView(views, floorIndex, cutName, formerNames);
     View view = found ? *found : View();

@@ -14,8 +14,9 @@ namespace Merivane::Archicad {
 
 /// The view of the floor plan with this name, or else the first with one of `formerNames`, which
 /// gets the name; made where there is none, at the plan's scale. It shows the floor with the
-/// layer combination of this name, which must stand. `created` tells a new view from one that was
-/// brought up to date. On failure the host's code, and `created` is false.
+/// layer combination of this name, which must stand. What another story of the same name shows is
+/// that story's own. `created` tells a new view from one that was brought up to date. On failure
+/// the host's code, and `created` is false.
 Host::ErrorCode EnsureFloorView(std::int16_t floorIndex, std::string_view name,
                                 const std::vector<std::string>& formerNames,
                                 std::string_view combinationName, bool& created);

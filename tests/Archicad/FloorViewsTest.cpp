@@ -130,6 +130,29 @@ TEST_F(FloorViews, AreTakenFromTheFloorFirstWhereStoriesShareAName) {
     EXPECT_EQ(Open().views[1].layerCombination, "Arquitetura");
 }
 
+TEST_F(FloorViews, OfStoriesThatShareANameAreTwoOfEach) {
+    Open().stories[1].name = "Terreo";
+    const Host::Story upper{1, 3.0, 3.0, "Terreo"};
+    EXPECT_TRUE(EnsureBoth(Ground));
+    EXPECT_TRUE(EnsureBoth(upper));
+    const Workbench::Project before = Open();
+    EXPECT_EQ(before.views.size(), 4U);
+    EXPECT_EQ(before.views[0].floorIndex, 0);
+    EXPECT_EQ(before.views[2].floorIndex, 1);
+    EXPECT_FALSE(EnsureBoth(Ground));
+    EXPECT_FALSE(EnsureBoth(upper));
+    EXPECT_EQ(Open(), before);
+}
+
+TEST_F(FloorViews, AreFoundByNameAloneWhereTheHostDoesNotTellTheStories) {
+    Add("Luminotécnico Simulação - Terreo", 1);
+    Workbench::FailCall("GetStories", 1, Host::GeneralError);
+    bool created = true;
+    ASSERT_EQ(EnsureSimulationView(Ground, created), Host::NoError);
+    EXPECT_FALSE(created);
+    EXPECT_EQ(Open().views[0].floorIndex, 0);
+}
+
 TEST_F(FloorViews, AreNotMadeOfFoldersOrViewsOfOtherWindows) {
     Add("Prova").isFolder = true;
     Add("Prova").window.type = Host::WindowType::Model3D;
