@@ -87,6 +87,9 @@ bool IsOwnLayerName(std::string_view name) {
 }
 
 void RenameOlderAttribute(Host::AttributeType type, std::string_view name) {
+    if (name.find(Word) == std::string_view::npos) {
+        return;
+    }
     const std::string older = CutAttributeName(WithOlderWord(name));
     Commands::CheckError("renomear " + older, RenameIfOlder(type, older, CutAttributeName(name)));
 }

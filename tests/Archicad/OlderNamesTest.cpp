@@ -80,6 +80,12 @@ TEST_F(OlderNames, WithoutTheWordOrAnAttributeChangeNothing) {
     EXPECT_EQ(Log(), Lines());
 }
 
+TEST_F(OlderNames, AreNotLookedForWithoutTheWord) {
+    Workbench::FailCall("FindAttribute", 1, Host::NotMine);
+    RenameOlderAttribute(AttributeType::Layer, "Isolux");
+    EXPECT_EQ(Log(), Lines());
+}
+
 TEST_F(OlderNames, AreFoundAndReplacedCut) {
     const std::string rest(250, 'x');
     Open().layers[7] = {"Merivane" + std::string(247, 'x'), false, false}; // 255 bytes
