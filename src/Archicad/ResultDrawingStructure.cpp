@@ -64,6 +64,8 @@ ErrorCode PrepareResultStructure(const DrawingOptions& options, ResultStructure&
     if (EnsureLineType(DashedLineType(), structure.dashedLine) != Host::NoError) {
         structure.dashedLine = {};
     }
+    AttributeIndex dashDot; // of no curve, but at hand beside the other
+    EnsureLineType(DashDotLineType(), dashDot);
     structure.scale = FindScale(options.scale);
     return Host::NoError;
 }

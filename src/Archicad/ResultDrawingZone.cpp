@@ -135,7 +135,9 @@ void DrawZone(const ZonePlacement& zone, const DrawingOptions& options,
     Progress("2D: limite feito; textos do resumo");
     const std::vector<Simulation::SummaryParagraph> summary =
         Simulation::BuildZoneSummary(run.drawing);
-    DrawSummary(run.sheet, structure.layers.legend, zone.summary, summary);
+    if (!DrawSummary(run.sheet, structure.layers.legend, zone.summary, summary)) {
+        warnings.emplace_back("1 elemento(s) das tabelas nao puderam ser criados");
+    }
     Progress("2D: resumo (" + std::to_string(summary.size()) + " paragrafos)");
     Progress("2D: zona concluida");
     if (run.sheet.refused > 0) {

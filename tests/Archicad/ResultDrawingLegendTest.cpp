@@ -35,6 +35,7 @@ TEST_F(LegendOfAFloor, StandsAtItsPlacesInPaperMillimetres) {
     EXPECT_NEAR(title.position.x, 10.0, 1e-9);
     EXPECT_NEAR(title.position.y, 20.0 - 3.5 * 0.05, 1e-9);
     EXPECT_EQ(title.size, 2.5);
+    EXPECT_EQ(title.anchor, Host::TextAnchor::LeftBottom);
     const auto fills = Elements(ElementType::Hatch);
     ASSERT_EQ(fills.size(), 3U);
     for (std::size_t row = 0; row < 3; ++row) {

@@ -38,6 +38,18 @@ TEST_F(ResultStructureOfAProject, HasLayersTheSolidFillAndTheDashedLine) {
     EXPECT_EQ(Open().lineTypes.at(2), (Host::LineType{"Vantoro - Tracejada", {3.0, 1.5}}));
 }
 
+TEST_F(ResultStructureOfAProject, MakesBothLineTypesWhereTheyAreMissing) {
+    Open().lineTypes.erase(2);
+    Open().lineTypes.erase(3);
+    Prepare();
+    EXPECT_EQ(Open().lineTypes.at(structure.dashedLine.value), DashedLineType());
+    Host::AttributeIndex dashDot;
+    ASSERT_EQ(
+        Host::FindAttribute(Host::AttributeType::LineType, "Vantoro - Traco e ponto", dashDot),
+        Host::NoError);
+    EXPECT_EQ(Open().lineTypes.at(dashDot.value), DashDotLineType());
+}
+
 TEST_F(ResultStructureOfAProject, TakesTheFirstSolidFill) {
     Open().fills = {{3, {"Tijolo", Host::FillKind::Vector}},
                     {4, {"Vazio", Host::FillKind::Empty}},

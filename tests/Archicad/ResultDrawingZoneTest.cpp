@@ -234,7 +234,7 @@ TEST_F(DrawnZone, CountsWhateverTheHostRefusesIntoOneWarning) {
 TEST_F(DrawnZone, GoesOnPastEverySingleRefusal) {
     options.values = true;
     constexpr int all = 1 + 2 + 2 + 27 + 2 + 1;
-    for (int nth : {1, 4, 6, 20, 33, 34, 35}) {
+    for (int nth : {1, 4, 6, 20, 33, 34}) {
         warnings.clear();
         const std::size_t before = Open().elements.size();
         Workbench::FailCall("CreateElement", nth, Host::GeneralError);
@@ -244,6 +244,15 @@ TEST_F(DrawnZone, GoesOnPastEverySingleRefusal) {
                   (Lines{"1 elemento(s) de desenho nao puderam ser criados na zona Sala"}))
             << nth;
     }
+}
+
+TEST_F(DrawnZone, TellsThatItsTablesAreMissing) {
+    DrawNothingButSummary();
+    Workbench::FailCall("CreateElement", 3, Host::GeneralError); // after the limit and its label
+    DrawIt(small);
+    EXPECT_TRUE(ElementsOn({8}).empty());
+    EXPECT_EQ(warnings, (Lines{"1 elemento(s) das tabelas nao puderam ser criados",
+                               "1 elemento(s) de desenho nao puderam ser criados na zona Sala"}));
 }
 
 TEST_F(DrawnZone, HasNoBandThatTheHostRefuses) {

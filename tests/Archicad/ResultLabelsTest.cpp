@@ -130,6 +130,8 @@ TEST(PlaceOutlineText, StandsOverTheLeftmostTop) {
     EXPECT_EQ(text->text, "Limite da área de tarefa");
     EXPECT_NEAR(text->position.x, 5.05, 1e-12);
     EXPECT_NEAR(text->position.y, 4 + 0.8 * 0.2, 1e-12);
+    EXPECT_EQ(text->height, 1.8);
+    EXPECT_EQ(text->anchor, Host::TextAnchor::LeftBottom);
 }
 
 TEST(LabelSpaceOf, HoldsTheLimitsLabelOthersAndWrittenValues) {
