@@ -299,7 +299,7 @@ TEST_F(CalculationSteps, LeaveCombinationsAsTheUserSetThem) {
     ASSERT_EQ(combinations.size(), 2U);
     for (auto& entry : combinations) {
         for (Host::LayerState& state : entry.second.states) {
-            state.hidden = !state.hidden;
+            state.hidden = state.layer.value > 1 && !state.hidden; // the first is always shown
         }
     }
     const auto users = combinations;
