@@ -48,11 +48,12 @@ struct ResultStructure {
 Host::ErrorCode PrepareResultStructure(const DrawingOptions& options, ResultStructure& structure);
 
 /// Deletes what earlier calculations drew on `floors` (none = on every floor): polylines, texts,
-/// lines, fills and Morphs on the result layers, whoever put them there. `count` gets how many. A
-/// lock of a layer or an element holds what it locks: the rest goes, then the host's error is
-/// returned. In an undo step.
+/// lines, fills and Morphs on the result layers, whoever put them there. `count` gets how many.
+/// What can't be edited stays, as where the user locked its layer or the element; `held` gets how
+/// many. Returns the host's error, all staying then. In an undo step.
 Host::ErrorCode DeleteResultElements(const ResultLayers& layers,
-                                     const std::vector<std::int32_t>& floors, std::int32_t& count);
+                                     const std::vector<std::int32_t>& floors, std::int32_t& count,
+                                     std::int32_t& held);
 
 /// A Zone's result and where its summary stands.
 struct ZonePlacement {

@@ -17,10 +17,10 @@ using Host::Guid;
 constexpr std::array DrawnTypes = {ElementType::PolyLine, ElementType::Text, ElementType::Line,
                                    ElementType::Hatch, ElementType::Morph};
 
-/// What goes: that which can be changed, and that which a lock of layer or element holds.
+/// What goes, and how many a lock of layer or element holds.
 struct OldResults {
     std::vector<Guid> editable;
-    std::vector<Guid> held;
+    std::int32_t held = 0;
 };
 
 template <typename List, typename Value> bool Contains(const List& list, const Value& value) {
@@ -46,37 +46,37 @@ ErrorCode CollectOldResults(ElementType type, const ResultLayers& layers,
         const Host::ElementHeader& header = element.header;
         const bool onFloor =
             floors.empty() || Contains(floors, static_cast<std::int32_t>(header.floorIndex));
-        if (onFloor && Contains(ListLayers(layers), header.layer)) {
-            (isEditable.contains(guid) ? results.editable : results.held).push_back(guid);
+        if (!onFloor || !Contains(ListLayers(layers), header.layer)) {
+            continue;
+        }
+        if (isEditable.contains(guid)) {
+            results.editable.push_back(guid);
+        } else {
+            ++results.held;
         }
     }
     return Host::NoError;
 }
 
-ErrorCode Delete(const std::vector<Guid>& guids, std::int32_t& count) {
-    if (guids.empty()) {
-        return Host::NoError;
-    }
-    const ErrorCode code = Host::DeleteElements(guids);
-    count += code == Host::NoError ? static_cast<std::int32_t>(guids.size()) : 0;
-    return code;
-}
-
 } // namespace
 
 ErrorCode DeleteResultElements(const ResultLayers& layers, const std::vector<std::int32_t>& floors,
-                               std::int32_t& count) {
-    count = 0;
+                               std::int32_t& count, std::int32_t& held) {
+    count = held = 0;
     OldResults results;
     for (const ElementType type : DrawnTypes) {
         if (const ErrorCode code = CollectOldResults(type, layers, floors, results)) {
             return code;
         }
     }
-    if (const ErrorCode code = Delete(results.editable, count)) {
-        return code;
+    if (!results.editable.empty()) {
+        if (const ErrorCode code = Host::DeleteElements(results.editable)) {
+            return code;
+        }
     }
-    return Delete(results.held, count); // the host names the lock
+    count = static_cast<std::int32_t>(results.editable.size());
+    held = results.held;
+    return Host::NoError;
 }
 
 } // namespace Merivane::Archicad

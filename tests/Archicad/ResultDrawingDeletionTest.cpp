@@ -36,13 +36,14 @@ protected:
         Workbench::OpenProject(Workbench::Project(Open())); // indexed anew
         Host::ErrorCode code = Host::NoError;
         Host::CallUndoable("Prova", [&] {
-            code = DeleteResultElements(structure.layers, floors, count);
+            code = DeleteResultElements(structure.layers, floors, count, held);
             return Host::NoError;
         });
         return code;
     }
 
     std::int32_t count = -1;
+    std::int32_t held = -1;
 
 private:
     std::uint32_t number = 0;
@@ -55,6 +56,7 @@ TEST_F(OldResultsOfAProject, AreOfFiveTypesOnTheSixLayers) {
     const std::size_t before = Open().elements.size();
     ASSERT_EQ(Delete({0, 1}), Host::NoError);
     EXPECT_EQ(count, 5 * 6 * 2);
+    EXPECT_EQ(held, 0);
     EXPECT_EQ(Open().elements.size(), before - 60);
     for (const Workbench::ProjectElement& element : Open().elements) {
         const Host::ElementHeader& header = element.element.header;
@@ -92,8 +94,9 @@ TEST_F(OldResultsOfAProject, StayWhereALockHoldsThemAndTheRestGoes) {
     Add(ElementType::Text, 6);
     Add(ElementType::Line, 6);
     Open().layers.at(5).locked = true;
-    EXPECT_EQ(Delete({0}), Host::LockedLayer);
+    EXPECT_EQ(Delete({0}), Host::NoError);
     EXPECT_EQ(count, 2);
+    EXPECT_EQ(held, 1);
     EXPECT_EQ(ElementsOn({5}).size(), 1U);
     EXPECT_TRUE(ElementsOn({6}).empty());
 }
@@ -102,16 +105,27 @@ TEST_F(OldResultsOfAProject, StayWhereTheUserLockedTheElement) {
     Add(ElementType::Text, 5);
     Add(ElementType::Text, 5);
     Open().elements.front().element.header.locked = true;
-    EXPECT_EQ(Delete({0}), Host::NotEditable);
+    EXPECT_EQ(Delete({0}), Host::NoError);
     EXPECT_EQ(count, 1);
+    EXPECT_EQ(held, 1);
     EXPECT_EQ(ElementsOn({5}).size(), 1U);
+}
+
+TEST_F(OldResultsOfAProject, AreNotCountedAsHeldOnOtherFloorsAndLayers) {
+    Add(ElementType::Text, 5, 1);
+    Add(ElementType::Text, 4); // locked, and no result layer
+    Open().layers.at(5).locked = true;
+    EXPECT_EQ(Delete({0}), Host::NoError);
+    EXPECT_EQ(count, 0);
+    EXPECT_EQ(held, 0);
 }
 
 TEST_F(OldResultsOfAProject, StayOnAHiddenLayer) {
     Add(ElementType::Text, 5);
     Open().layers.at(5).hidden = true;
-    EXPECT_EQ(Delete({0}), Host::HiddenLayer);
+    EXPECT_EQ(Delete({0}), Host::NoError);
     EXPECT_EQ(count, 0);
+    EXPECT_EQ(held, 1);
 }
 
 TEST_F(OldResultsOfAProject, StayWhereTheHostRefuses) {
@@ -124,6 +138,7 @@ TEST_F(OldResultsOfAProject, StayWhereTheHostRefuses) {
         Workbench::FailCall(operation, nth, Host::NotMine);
         EXPECT_EQ(Delete({0}), Host::NotMine) << operation << " " << nth;
         EXPECT_EQ(count, 0);
+        EXPECT_EQ(held, 0);
         EXPECT_EQ(ElementsOn({5}).size(), 1U);
     }
 }
@@ -131,7 +146,7 @@ TEST_F(OldResultsOfAProject, StayWhereTheHostRefuses) {
 TEST_F(OldResultsOfAProject, GoInAnUndoStepOnly) {
     Add(ElementType::Text, 5);
     Workbench::OpenProject(Workbench::Project(Open()));
-    EXPECT_EQ(DeleteResultElements(structure.layers, {}, count), Host::NeedsUndoScope);
+    EXPECT_EQ(DeleteResultElements(structure.layers, {}, count, held), Host::NeedsUndoScope);
 }
 
 } // namespace

@@ -112,7 +112,8 @@ TEST_F(LayoutOfAFloor, TextsAsTheyAreDrawnCoverEachOtherAtNoScale) {
             texts.emplace_back(name, box);
         }
         std::int32_t count = 0;
-        Draw([&] { DeleteResultElements(structure.layers, {0}, count); });
+        std::int32_t held = 0;
+        Draw([&] { DeleteResultElements(structure.layers, {0}, count, held); });
         EXPECT_EQ(Elements(ElementType::Text).size(), 0U);
     }
 }

@@ -96,17 +96,33 @@ void DrawFloor(const Calculation& calculation, std::int32_t floor,
     }
 }
 
+/// What became of the earlier results' elements.
+struct EarlierResults {
+    std::int32_t replaced = 0;
+    std::int32_t held = 0; ///< by a lock of layer or element: they stand beside the new ones
+};
+
+void TellEarlierResults(const EarlierResults& earlier) {
+    if (earlier.replaced > 0) {
+        ReportLine(std::to_string(earlier.replaced) +
+                   " elemento(s) do calculo anterior substituido(s)");
+    }
+    if (earlier.held > 0) {
+        ReportLine(std::to_string(earlier.held) +
+                   " elemento(s) do calculo anterior nao puderam ser apagados (bloqueados ou em "
+                   "camada bloqueada): continuam no desenho");
+    }
+}
+
 /// A plan on which nothing stood and nothing could be drawn leaves nothing to undo.
 Host::ErrorCode DrawInOneStep(const Calculation& calculation,
                               const Archicad::DrawingOptions& options,
-                              const Archicad::ResultStructure& structure) {
+                              const Archicad::ResultStructure& structure, EarlierResults& earlier) {
     const std::vector<std::int32_t> floors = FloorsOf(calculation);
-    std::int32_t replaced = 0;
     std::vector<std::string> warnings;
     const Host::ErrorCode code = Host::CallUndoable("Vantoro: resultados do calculo", [&] {
-        if (const Host::ErrorCode refused =
-                Archicad::DeleteResultElements(structure.layers, floors, replaced)) {
-            replaced = 0; // the step is taken back
+        if (const Host::ErrorCode refused = Archicad::DeleteResultElements(
+                structure.layers, floors, earlier.replaced, earlier.held)) {
             return refused;
         }
         for (const std::int32_t floor : floors) {
@@ -116,9 +132,6 @@ Host::ErrorCode DrawInOneStep(const Calculation& calculation,
     });
     for (const std::string& warning : warnings) {
         ReportLine(warning);
-    }
-    if (replaced > 0) {
-        ReportLine(std::to_string(replaced) + " elemento(s) do calculo anterior substituido(s)");
     }
     return code == Host::NothingToUndo ? Host::NoError : code;
 }
@@ -202,11 +215,15 @@ void DrawResults(const Calculation& calculation) {
     Archicad::ResultStructure structure;
     Host::ErrorCode code = Archicad::PrepareResultStructure(options, structure);
     const bool combined = code == Host::NoError && PrepareCombinations(structure.layers);
+    EarlierResults earlier;
     if (code == Host::NoError) {
-        code = DrawInOneStep(calculation, options, structure);
+        code = DrawInOneStep(calculation, options, structure, earlier);
     }
     CheckError(DrawStep, code);
     Progress("desenho concluido (erro " + std::to_string(code) + ")");
+    if (code == Host::NoError) { // else the step was taken back
+        TellEarlierResults(earlier);
+    }
     if (combined) {
         UpdateViews(calculation);
     }
