@@ -148,9 +148,16 @@ void ExplainEnd(CalculateRun& run) {
     }
 }
 
+/// Of the project, or of its file where it has none.
+std::string StudyName(const std::string& projectFile) {
+    const std::string& name = CurrentSession().project.name;
+    return name.empty() ? std::filesystem::path(projectFile).stem().string() : name;
+}
+
 bool Calculate(CalculateRun& run) {
     const ProfileForRun profile(run.arguments.profile);
     run.calculation = Commands::RunCalculation();
+    run.calculation.study.name = StudyName(run.arguments.projectFile);
     if (run.calculation.end != Commands::CalculationEnd::Done) {
         ExplainEnd(run);
         return false;

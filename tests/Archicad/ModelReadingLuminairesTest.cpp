@@ -77,6 +77,37 @@ TEST(CollectLuminaires, FillsTheWholeRecord) {
     EXPECT_TRUE(collected.log.empty());
 }
 
+TEST(CollectLuminaires, TakesTheColourRenderingOfOlderPartsOrOfTheHeader) {
+    struct Case {
+        double parameter; // of parts made earlier; 0 = absent
+        std::string header;
+        double expected;
+    };
+    const Case cases[] = {{0, "[_RA] 90", 90},
+                          {0, "[LAMP] LED CRI>80", 80},
+                          {0, "[LAMP] LED", 0},
+                          {70, "[_RA] 90", 70}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.header);
+        Workbench::Project project = OneLamp();
+        auto& parameters = PartParameters(project);
+        std::erase_if(parameters, [](const auto& entry) { return entry.name == "mvIesKeywords"; });
+        Host::LibraryParameter& header = parameters.emplace_back();
+        header.name = "mvIesKeywords";
+        header.type = Host::ParameterType::String;
+        header.isArray = true;
+        header.dim1 = 1;
+        header.dim2 = 1;
+        header.texts = {c.header};
+        if (c.parameter > 0.0) {
+            SetNumber(parameters, "mvColourRendering", c.parameter);
+        }
+        const Collected collected = Collect(std::move(project));
+        ASSERT_EQ(collected.luminaires.size(), 1U);
+        EXPECT_EQ(collected.luminaires[0].contract.colourRendering, c.expected);
+    }
+}
+
 TEST(CollectLuminaires, ReadsThePlanWhateverDatabaseIsCurrent) {
     Workbench::Project project = OneLamp();
     Workbench::ProjectDatabase sheet;

@@ -110,6 +110,22 @@ TEST(CalculateCommand, WritesTheProjectItsWindowsTheReportAndTheValues) {
         << run.ends[0].output;
 }
 
+TEST(CalculateCommand, NamesTheStudyLikeTheProjectOrElseLikeItsFile) {
+    for (const std::string name : {"Casa da praia", ""}) {
+        const SmallCalculation calculation;
+        Workbench::Project project = SmallProject();
+        project.name = name;
+        SaveSample(calculation.folder.Path() / "p.vantoro", project);
+        const ProgramEnd end =
+            calculation.Run({"--zonas", "01", "--saida", "out", "--salvar-como", "named.vantoro"});
+        ASSERT_EQ(end.status, 0) << end.error;
+        const std::string shown = name.empty() ? "p" : name;
+        const std::filesystem::path out = calculation.folder.Path() / "out";
+        EXPECT_TRUE(Holds(ReadBytes(out / "resultado.json"), "\"nome\": \"" + shown + "\""));
+        EXPECT_TRUE(Holds(ReadBytes(out / "relatorio.html"), "<h1>" + shown + "</h1>"));
+    }
+}
+
 TEST(CalculateCommand, TellsTheRunLogOnStandardOutput) {
     const std::string& output = Shared().ends[0].output;
     EXPECT_TRUE(Holds(output, "Vantoro: calculo: 1 zona(s), 2 luminaria(s)\n")) << output;
