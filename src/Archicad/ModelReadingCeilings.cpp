@@ -45,17 +45,21 @@ std::string FollowCeiling(ZoneRecord& zone, const std::optional<DetectedCeiling>
 
 } // namespace
 
-void DetectCeilings(std::vector<ZoneRecord>& zones,
-                    const std::vector<Simulation::SceneSurface>& surfaces, bool logRequested,
-                    std::vector<std::string>& logLines) {
+std::vector<Simulation::ZoneCeiling>
+DetectCeilings(std::vector<ZoneRecord>& zones,
+               const std::vector<Simulation::SceneSurface>& surfaces, bool logRequested,
+               std::vector<std::string>& logLines) {
     const std::vector<Simulation::LevelFace> faces = Simulation::CollectLevelFaces(surfaces);
+    std::vector<Simulation::ZoneCeiling> ceilings;
     for (ZoneRecord& zone : zones) {
-        const std::string line = FollowCeiling(
-            zone, Simulation::DetectCeiling({zone.outline, zone.holes}, zone.baseLevel, faces));
+        ceilings.push_back({zone.height, Simulation::DetectCeiling({zone.outline, zone.holes},
+                                                                   zone.baseLevel, faces)});
+        const std::string line = FollowCeiling(zone, ceilings.back().detected);
         if (logRequested && !line.empty()) {
             logLines.push_back(line);
         }
     }
+    return ceilings;
 }
 
 } // namespace Merivane::Archicad

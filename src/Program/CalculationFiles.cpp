@@ -76,6 +76,7 @@ bool AddReport(const Commands::Calculation& calculation, bool repeatable,
                                 calculation.analyses, record};
     input.settings = calculation.settings;
     input.reflectances = calculation.reflectances;
+    input.ceilings = calculation.ceilings;
     input.pictures = PlansWithResults(calculation, pictures);
     input.log = LogLines();
     input.moment = MomentText(moment);

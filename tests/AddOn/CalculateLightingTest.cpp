@@ -325,6 +325,8 @@ TEST_F(MainCommand, TakesTheCeilingOfTheModel) {
     const Calculation calculation = Run(R"({"item": 19, "marcado": true})");
     EXPECT_NEAR(calculation.zones[0].height, 2.6, 1e-9);
     EXPECT_NEAR(calculation.study.zones[0].height, 2.6, 1e-9);
+    EXPECT_EQ(calculation.ceilings.at(0).zoneHeight, 3.0);
+    EXPECT_NEAR(calculation.ceilings[0].detected->height, 2.6, 1e-9);
 }
 
 TEST_F(MainCommand, TellsOfAZoneWithoutRoomForAPoint) {

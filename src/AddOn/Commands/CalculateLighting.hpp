@@ -9,6 +9,7 @@
 #include "Simulation/CalculationSettings.hpp"
 #include "Simulation/Reflectances.hpp"
 #include "Simulation/SimulationRecords.hpp"
+#include "Simulation/Study/CeilingDetection.hpp"
 #include "Simulation/Study/LightingStudy.hpp"
 #include "Simulation/Study/StudyScene.hpp"
 #include "Simulation/Study/ZoneAnalysis.hpp"
@@ -28,7 +29,8 @@ enum class CalculationEnd {
 /// what stands after the step at which it ended is empty.
 struct Calculation {
     CalculationEnd end = CalculationEnd::Refused;
-    std::vector<Archicad::ZoneRecord> zones; ///< their heights are those of the real ceilings
+    std::vector<Archicad::ZoneRecord> zones;       ///< their heights are those of the real ceilings
+    std::vector<Simulation::ZoneCeiling> ceilings; ///< of the Zones, in order
     Simulation::CalculationSettings settings;
     std::vector<Simulation::SurfaceReflectance> reflectances; ///< one for each material
     Radiance::Installation installation;

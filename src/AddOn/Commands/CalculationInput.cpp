@@ -179,7 +179,8 @@ bool CollectModel(Calculation& calculation, const std::vector<Host::Guid>& lumin
                               calculation.settings.workPlaneHeight, scene, calculation.reflectances,
                               log);
     Progress("geometria coletada: " + std::to_string(scene.surfaces.size()) + " triangulo(s)");
-    Archicad::DetectCeilings(calculation.zones, scene.surfaces, calculation.settings.surfaces, log);
+    calculation.ceilings = Archicad::DetectCeilings(calculation.zones, scene.surfaces,
+                                                    calculation.settings.surfaces, log);
     const bool goesOn = Archicad::ReviewReflectances(calculation.reflectances, calculation.settings,
                                                      ShowReflectanceDialog, scene.materials, log);
     ReportLines(log);

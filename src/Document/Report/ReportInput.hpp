@@ -23,12 +23,6 @@ struct ReportPicture {
     Drawing::DisplayList drawing;
 };
 
-/// What was found out about the ceiling of a Zone before it was calculated.
-struct ReportCeiling {
-    double zoneHeight = 0.0; ///< as the project has it [m]
-    std::optional<Simulation::DetectedCeiling> detected;
-};
-
 /// A value that was taken because nobody had given one.
 struct AdoptedValue {
     std::string subject; ///< whose: "Zona Sala 1", "Luminária Painel"
@@ -57,7 +51,7 @@ struct ReportInput {
     /// Of the project's surfaces, with where each value comes from; without any the study's
     /// materials are told as they are given.
     std::vector<Simulation::SurfaceReflectance> reflectances = {};
-    std::vector<ReportCeiling> ceilings = {};      ///< one for each Zone, or none at all
+    std::vector<Simulation::ZoneCeiling> ceilings = {}; ///< one for each Zone, or none at all
     std::vector<AdoptedValue> adopted = {};        ///< what only the caller knows of, told first
     std::vector<ReportPicture> pictures = {};      ///< the plan with its results first
     std::vector<ReportVersion> versions = {};      ///< beside those of `run`

@@ -60,7 +60,8 @@ void TakeTask(const StudyZone& zone, const Simulation::ZoneAnalysis& analysis,
     }
 }
 
-void TakeCeiling(const StudyZone& zone, const ReportCeiling& ceiling, SharedValues& shared) {
+void TakeCeiling(const StudyZone& zone, const Simulation::ZoneCeiling& ceiling,
+                 SharedValues& shared) {
     constexpr double noticed = 0.005; // m
     if (!ceiling.detected) {
         shared.Add(zone.name, "pé-direito " + MetresText(zone.height),

@@ -34,4 +34,10 @@ struct DetectedCeiling {
 std::optional<DetectedCeiling> DetectCeiling(const Polygon2D& polygon, double floorLevel,
                                              const std::vector<LevelFace>& faces);
 
+/// What was found out about the ceiling of a Zone before it was calculated.
+struct ZoneCeiling {
+    double zoneHeight = 0.0; ///< as the project has it [m]
+    std::optional<DetectedCeiling> detected;
+};
+
 } // namespace Merivane::Simulation
