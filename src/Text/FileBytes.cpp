@@ -35,6 +35,10 @@ bool WriteAndClose(const std::wstring& path, std::string_view bytes, bool sync) 
 
 bool ReadFileBytes(const std::wstring& path, std::string& bytes) {
     bytes.clear();
+    std::error_code error; // a device such as /dev/zero has no end
+    if (std::filesystem::is_character_file(NativePath(path), error)) {
+        return false;
+    }
     const FileHandle file(OpenFile(path, FileMode::Read));
     if (!file) {
         return false;

@@ -6,7 +6,7 @@
 namespace Merivane::Text {
 
 /// Reads a whole file in binary. Returns false when it can't be opened or read to its end;
-/// `bytes` then holds what was read. A folder is no file.
+/// `bytes` then holds what was read. A folder is no file, nor is a device, which may have no end.
 bool ReadFileBytes(const std::wstring& path, std::string& bytes);
 
 /// Writes a file in binary, replacing one that exists. Returns false when it can't be opened,

@@ -329,6 +329,36 @@ TEST_F(MainCommand, TakesTheCeilingOfTheModel) {
     EXPECT_NEAR(calculation.ceilings[0].detected->height, 2.6, 1e-9);
 }
 
+TEST_F(MainCommand, TellsTheReaderOfLuminairesLeftOutAndOfAPlaneInTheCeiling) {
+    Workbench::Project project = Tests::CalculationSample();
+    for (Workbench::ProjectElement& element : project.elements) {
+        if (element.element.header.guid == Tests::NumberedGuid(Tests::FirstLamp)) {
+            element.memo.parameters = project.parts[0].parameters;
+            Tests::SetNumber(element.memo.parameters, "mvLightOn", 0.0);
+        }
+    }
+    OpenSample(std::move(project));
+    const Calculation calculation = Run(R"({"item": 6, "valor": 3.0})");
+    EXPECT_TRUE(Tests::HoldsLine(calculation.notices,
+                                 "1 luminaria(s) desligada(s) (mvLightOn) fora do calculo"));
+    const std::string plane = "Zona \"Sala\": o plano de trabalho a 3,00 m não fica abaixo do "
+                              "teto, a 3,00 m";
+    EXPECT_TRUE(Tests::HoldsLine(calculation.notices, plane));
+    EXPECT_TRUE(Tests::HoldsLine(Tests::ReportWindow(), "Vantoro: " + plane));
+}
+
+TEST_F(MainCommand, TellsOfPointsThatNoLightReaches) {
+    Workbench::Project project = Tests::CalculationSample();
+    Workbench::ProjectElement& box = Tests::AddElement(project, 7, Host::ElementType::Slab);
+    box.geometry = Workbench::SlabGeometry{
+        {Tests::PlanRectangle(0.8, 0.8, 0.4, 0.4)}, 1.0, 1.0, {1}, {2}, {3}};
+    OpenSample(std::move(project));
+    const Calculation calculation = Run();
+    EXPECT_TRUE(Tests::HoldsLine(calculation.notices,
+                                 "Zona \"Sala\": 16 ponto(s) sem luz alguma, por certo dentro de "
+                                 "móveis ou pilares que passam do plano de trabalho"));
+}
+
 TEST_F(MainCommand, TellsOfAZoneWithoutRoomForAPoint) {
     // The four nodes of its lattice are the corners of the box around the diamond.
     Workbench::Project project = Tests::CalculationSample();

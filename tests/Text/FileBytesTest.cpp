@@ -67,6 +67,12 @@ TEST(FileBytes, RefusesToReadWhatIsMissingAndWhatIsAFolder) {
     EXPECT_FALSE(ReadFileBytes(L"", bytes));
 }
 
+TEST(FileBytes, RefusesToReadADevice) {
+    std::string bytes;
+    EXPECT_FALSE(ReadFileBytes(L"/dev/zero", bytes));
+    EXPECT_EQ(bytes, "");
+}
+
 TEST(FileBytes, SaysWhenItCannotWrite) {
     const TemporaryFolder folder;
     EXPECT_FALSE(WriteFileBytes(Wide(folder.Path() / "none" / "a"), "1"));

@@ -1,5 +1,7 @@
 #include "AddOn/Commands/CalculationInput.hpp"
 
+#include <algorithm>
+#include <iterator>
 #include <set>
 #include <string>
 #include <utility>
@@ -15,6 +17,7 @@
 #include "Archicad/ReviewReflectances.hpp"
 #include "Archicad/StoredSettings.hpp"
 #include "Archicad/ZoneTaskStorage.hpp"
+#include "Simulation/PrintedValue.hpp"
 #include "Simulation/Run/ReflectionEstimate.hpp"
 
 namespace Merivane::Commands {
@@ -46,6 +49,12 @@ std::size_t CountLuminaires(const std::vector<Simulation::SceneLuminaire>& lumin
         guids.insert(luminaire.guid);
     }
     return guids.size();
+}
+
+/// Of the lines on luminaires, those that tell of one left out.
+bool TellsOfMissingLight(const std::string& line) {
+    return line.find("fora do calculo") != std::string::npos ||
+           line.find(" ignorada: ") != std::string::npos;
 }
 
 StudyZone StudyZoneOf(const Archicad::ZoneRecord& zone) {
@@ -80,24 +89,38 @@ void CompleteZones(Calculation& calculation) {
     }
 }
 
-/// A Zone without room for a point would look like one without light.
-void TellEmptyZones(Calculation& calculation) {
-    for (std::size_t i = 0; i < calculation.study.zones.size(); ++i) {
-        const std::size_t plane = Simulation::WorkPlaneOf(calculation.built, i);
-        if (Simulation::ActiveNodeCount(calculation.built.scene.sensorPlanes[plane].grid) == 0) {
-            calculation.notices.push_back("Zona \"" + calculation.study.zones[i].name +
-                                          "\": nenhum ponto de cálculo cabe no contorno");
-        }
+/// A Zone without room for a point, or with its work plane in the ceiling, would look like one
+/// without light.
+std::string ZoneNotice(const Calculation& calculation, std::size_t zone) {
+    const StudyZone& studied = calculation.study.zones[zone];
+    const std::size_t plane = Simulation::WorkPlaneOf(calculation.built, zone);
+    if (Simulation::ActiveNodeCount(calculation.built.scene.sensorPlanes[plane].grid) == 0) {
+        return "Zona \"" + studied.name + "\": nenhum ponto de cálculo cabe no contorno";
     }
+    if (studied.grid.workPlaneHeight >= studied.height) {
+        return "Zona \"" + studied.name + "\": o plano de trabalho a " +
+               Simulation::FormatDecimal(studied.grid.workPlaneHeight, 2) +
+               " m não fica abaixo do teto, a " + Simulation::FormatDecimal(studied.height, 2) +
+               " m";
+    }
+    return "";
 }
 
-void TellCheapReflections(Calculation& calculation) {
+std::string ReflectionNotice(const Calculation& calculation) {
     Simulation::SimulationOptions options;
     options.engine = calculation.study.engine;
-    const std::string warning = Simulation::ReflectionWarning(calculation.built.scene, options);
-    if (!warning.empty()) {
-        calculation.notices.push_back(warning);
+    return Simulation::ReflectionWarning(calculation.built.scene, options);
+}
+
+/// What the reader of the results should know of the points and of the engine.
+std::vector<std::string> PointNotices(const Calculation& calculation) {
+    std::vector<std::string> notices = calculation.built.notices;
+    for (std::size_t i = 0; i < calculation.study.zones.size(); ++i) {
+        notices.push_back(ZoneNotice(calculation, i));
     }
+    notices.push_back(ReflectionNotice(calculation));
+    std::erase(notices, "");
+    return notices;
 }
 
 } // namespace
@@ -117,6 +140,8 @@ bool CollectZonesAndLuminaires(Calculation& calculation, std::vector<Host::Guid>
     calculation.study.luminaires =
         Archicad::CollectLuminaires({floors.begin(), floors.end()}, luminaireGuids, log);
     ReportLines(log);
+    std::copy_if(log.begin(), log.end(), std::back_inserter(calculation.notices),
+                 TellsOfMissingLight);
     if (calculation.study.luminaires.empty()) {
         return Refuse("Nenhuma luminaria Vantoro ligada no(s) pavimento(s) das Zonas. Crie "
                       "luminarias com \"Importar luminaria\" ou \"Adicionar fotometria IES\".");
@@ -192,10 +217,9 @@ bool CollectModel(Calculation& calculation, const std::vector<Host::Guid>& lumin
 void BuildPoints(Calculation& calculation) {
     CompleteZones(calculation);
     calculation.built = Simulation::BuildStudyScene(calculation.study);
-    calculation.notices = calculation.built.notices;
-    TellEmptyZones(calculation);
-    TellCheapReflections(calculation);
-    ReportLines(calculation.notices);
+    const std::vector<std::string> notices = PointNotices(calculation);
+    calculation.notices.insert(calculation.notices.end(), notices.begin(), notices.end());
+    ReportLines(notices);
     ReportLine("calculo: " + std::to_string(calculation.zones.size()) + " zona(s), " +
                std::to_string(CountLuminaires(calculation.study.luminaires)) + " luminaria(s)");
     Progress("radiance: " + std::to_string(calculation.built.scene.sensorPlanes.size()) +

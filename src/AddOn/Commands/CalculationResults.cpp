@@ -178,6 +178,27 @@ void TellWhere(const Calculation& calculation) {
                std::string(names[3]) + "\"; arquivos do calculo em " + calculation.workFolder);
 }
 
+/// Points of the task area that no light reaches. They stand inside of bodies, and make Emin and U0
+/// zero: whoever reads those should know why.
+std::size_t CountDarkPoints(const ZoneDrawing& drawing) {
+    std::size_t dark = 0;
+    for (std::size_t i = 0; i < drawing.field.size() && i < drawing.grid.task.size(); ++i) {
+        dark += drawing.grid.task[i] && drawing.field[i] == 0.0 ? 1 : 0;
+    }
+    return dark;
+}
+
+void TellDarkPoints(const ZoneDrawing& drawing, Calculation& calculation) {
+    const std::size_t dark = CountDarkPoints(drawing);
+    if (dark > 0 && drawing.analysis.statistics.maximum > 0.0) {
+        calculation.notices.push_back("Zona \"" + drawing.zone.name +
+                                      "\": " + std::to_string(dark) +
+                                      " ponto(s) sem luz alguma, por certo dentro de móveis ou "
+                                      "pilares que passam do plano de trabalho");
+        ReportLine(calculation.notices.back());
+    }
+}
+
 } // namespace
 
 void AnalyseZones(Calculation& calculation) {
@@ -190,6 +211,7 @@ void AnalyseZones(Calculation& calculation) {
         const ZoneDrawing& drawing = calculation.drawings.back();
         Progress("zona " + drawing.zone.name + ": curvas e faixas prontas");
         ReportLine(Simulation::PlaneLogLine(drawing.zone.name, drawing.analysis.statistics));
+        TellDarkPoints(drawing, calculation);
         TellSurfaces(calculation, i);
         TellGlare(calculation, drawing);
     }
