@@ -84,7 +84,8 @@ JsonValue ZoneResultJson(const Simulation::StudyZone& zone,
     json.Set("exigido", task != nullptr ? RequirementJson(zone, *task) : JsonValue());
     json.Set("verificacao", VerificationJson(analysis));
     json.Set("superficies", RowsJson(analysis.surfaces));
-    json.Set("ofuscamento", GlareJson(analysis, scene, explained));
+    json.Set("ofuscamento",
+             analysis.glareAnalysed ? GlareJson(analysis, scene, explained) : JsonValue());
     return json;
 }
 

@@ -27,6 +27,7 @@ Simulation::StudyZone VerifiedZone() {
 /// One model with a value, one without; an observer who sees the one luminaire.
 Simulation::ZoneAnalysis MakeUp() {
     Simulation::ZoneAnalysis analysis;
+    analysis.glareAnalysed = true;
     analysis.task = Simulation::FindTask("s22.2");
     analysis.verification.rows = {
         {"Iluminância Em", "480 lx", "≥ 450 lx", true, true, VerificationKind::Requirement},
@@ -133,6 +134,12 @@ TEST(ZoneResultJson, HasNullWhereNothingIsVerified) {
     EXPECT_TRUE(IsNull(json, "exigido"));
     EXPECT_TRUE(IsNull(*json.Find("verificacao"), "resultado"));
     EXPECT_TRUE(json.Find("verificacao")->Find("linhas")->items.empty());
+}
+
+TEST(ZoneResultJson, HasNullWhereGlareWasNotAnalysed) {
+    Simulation::ZoneAnalysis analysis = MakeUp();
+    analysis.glareAnalysed = false;
+    EXPECT_TRUE(IsNull(Written(analysis), "ofuscamento"));
 }
 
 TEST(ZoneResultJson, TellsTheGlareOfTheZoneAndOfEveryModel) {

@@ -39,6 +39,7 @@ ZoneAnalysis AnalyseZone(const LightingStudy& study, const StudyScene& built,
     ZoneAnalysis analysis;
     analysis.task = FindTask(asked.task.requirement.taskId);
     analysis.statistics = PlaneStatistics(built, result, zone, PlaneKind::WorkPlane);
+    analysis.glareAnalysed = study.glare;
     if (study.glare) {
         analysis.glare = AnalyseZoneGlare(
             space, built.scene, ObserversOf(built, result, zone), analysis.task != nullptr,

@@ -18,6 +18,7 @@ namespace Merivane::Simulation {
 struct ZoneAnalysis {
     const TaskRow* task = nullptr; ///< the Zone's activity; null: not verified
     PointStatistics statistics;    ///< task area of the work plane
+    bool glareAnalysed = false;    ///< the study asks for it; else `glare` is empty
     ZoneGlare glare;
     ZoneVerification verification;
     std::vector<VerificationRow> surfaces; ///< see `SurfaceRows`

@@ -18,6 +18,7 @@ bool HasRow(const ZoneAnalysis& analysis, const std::string& criterion) {
 
 TEST(AnalyseZone, RatesGlareWhereTheStudyAsksForIt) {
     const ZoneAnalysis analysis = Analyse(Tests::OfficeStudy());
+    EXPECT_TRUE(analysis.glareAnalysed);
     EXPECT_TRUE(analysis.glare.hasUgr);
     EXPECT_EQ(analysis.glare.models.size(), 1U);
     EXPECT_EQ(analysis.glare.observers.size(), 5U);
@@ -28,6 +29,7 @@ TEST(AnalyseZone, LeavesGlareOutWhereItIsNotAsked) {
     LightingStudy study = Tests::OfficeStudy();
     study.glare = false;
     const ZoneAnalysis analysis = Analyse(study);
+    EXPECT_FALSE(analysis.glareAnalysed);
     EXPECT_FALSE(analysis.glare.hasUgr);
     EXPECT_TRUE(analysis.glare.models.empty());
     EXPECT_TRUE(analysis.glare.observers.empty());
