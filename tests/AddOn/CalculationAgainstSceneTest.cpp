@@ -4,6 +4,7 @@
 #include <variant>
 #include <vector>
 
+#include "AddOn/AddOnState.hpp"
 #include "AddOn/CalculationSession.hpp"
 #include "AddOn/Commands/CalculateLighting.hpp"
 #include "Archicad/ModelSample.hpp"
@@ -92,6 +93,7 @@ protected:
         EXPECT_TRUE(Document::BuildScene(run.study, built, error)) << error;
         Simulation::SimulationOptions options = Tests::RunOptions(Folder() / "cena");
         options.engine = run.study.engine;
+        options.repeatable = true;
         const Simulation::SimulationResult result =
             Simulation::RunSimulation(built.scene, options, {}, {}, {});
         EXPECT_TRUE(result.success) << result.error;
@@ -102,6 +104,7 @@ protected:
     /// The same task and engine on the project's road.
     Calculation RunProject(const SceneRun& scene) {
         OpenSample(RoomProject());
+        CurrentAddOnState().run.repeatable = true;
         EXPECT_EQ(Archicad::SaveEngineSettings(scene.study.engine), Host::NoError);
         const std::string key = Archicad::ZoneKey(Tests::NumberedGuid(Tests::RoomZone));
         EXPECT_EQ(Archicad::SaveZoneTasks({{key, scene.study.zones[0].task.requirement}},
@@ -121,11 +124,15 @@ double NumberOf(const VerificationRow& row) {
     return number;
 }
 
-/// How far the two roads may be apart: 2 % of an illuminance, 0.05 of what is a share. The ends of
+/// How far the two roads may be apart: 2 % of an illuminance, 0.05 of what is a share, 0.1 of a
+/// surface's U0, which hangs on its one darkest point. The ends of
 /// walls and slabs, which no one writes down, count in the mean reflectances of the project.
 double ToleranceOf(const VerificationRow& row) {
     if (row.calculated.ends_with(" lx")) {
         return std::max(0.02 * NumberOf(row), 1.0);
+    }
+    if (row.criterion == "Teto U0" || row.criterion == "Paredes U0") {
+        return 0.1;
     }
     return row.criterion.ends_with("U0") || row.criterion.starts_with("Reflet") ? 0.05 : 0.0;
 }

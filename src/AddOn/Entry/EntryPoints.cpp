@@ -90,6 +90,7 @@ Host::ErrorCode FreeData() {
         palette->unregisterPalette();
     }
     CurrentAddOnState().calculation = {};
+    CurrentAddOnState().run = {};
     return Host::NoError;
 }
 
