@@ -37,7 +37,7 @@ TEST(BuildZoneDrawing, TakesTheZoneItsPlaneAndItsAnalysis) {
 TEST(BuildZoneDrawing, LaysTheValuesOnTheGrid) {
     const ZoneDrawing drawing = Draw(Tests::OfficeStudy()).drawing;
     ASSERT_EQ(drawing.field.size(),
-              static_cast<std::size_t>(drawing.grid.columns) * drawing.grid.rows);
+              static_cast<std::size_t>(drawing.grid.columns * drawing.grid.rows));
     const Point2D first = NodePosition(drawing.grid, 0, 0);
     EXPECT_DOUBLE_EQ(drawing.field[0], 100.0 + 100.0 * first.x);
 }
