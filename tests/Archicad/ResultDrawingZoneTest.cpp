@@ -195,10 +195,10 @@ TEST_F(DrawnZone, TellsStatesInTheirPensAndCountsCharacters) {
     const std::vector<std::pair<std::string, std::int32_t>> pens = {
         {"Iluminância Em", 2}, {"Uniformidade U0", 3}, {"Reprodução Ra (IRC)", 1}};
     for (const auto& [criterion, pen] : pens) {
-        const auto row =
-            std::find_if(paragraphs.begin(), paragraphs.end(), [&](const Host::TextParagraph& p) {
-                return p.text.starts_with(criterion + "\t");
-            });
+        const auto row = std::find_if(paragraphs.begin(), paragraphs.end(),
+                                      [&name = criterion](const Host::TextParagraph& p) {
+                                          return p.text.starts_with(name + "\t");
+                                      });
         ASSERT_NE(row, paragraphs.end()) << criterion;
         EXPECT_EQ(row->tabs.size(), 3U);
         EXPECT_EQ(row->stretches.front().pen, 1);
