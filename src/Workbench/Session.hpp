@@ -79,11 +79,11 @@ struct Fault {
 /// All that the embedded host remembers.
 struct Session {
     SessionOptions options;
-    std::vector<ReportLine> reportLines; ///< oldest first
-    Preferences preferences;             ///< where there is no preferences file
-    std::vector<Fault> faults;           ///< those still to come
+    std::vector<ReportLine> reportLines;           ///< oldest first
+    Preferences preferences;                       ///< where there is no preferences file
+    std::vector<Fault> faults;                     ///< those still to come
     std::map<std::string, int, std::less<>> calls; ///< of the port's functions, by their names
-    UserInterface userInterface;         ///< dialogs, palettes, menus
+    UserInterface userInterface;                   ///< dialogs, palettes, menus
 
     bool projectOpen = false;
     Project project;
