@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <system_error>
 
 #include <gtest/gtest.h>
@@ -18,7 +19,9 @@ namespace {
 
 std::string ReadIfThere(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::ostringstream bytes; // throws nothing where a process ends while it is looked at
+    bytes << file.rdbuf();
+    return bytes.str();
 }
 
 /// A shell can't take back that it was started with a signal ignored, so this process must.

@@ -66,8 +66,8 @@ int ProcessesNaming(const std::string& text) {
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
         std::ifstream file(entry.path() / "cmdline");
-        const std::string line{std::istreambuf_iterator<char>(file),
-                               std::istreambuf_iterator<char>()};
+        std::string line;
+        std::getline(file, line); // throws nothing where the process ends meanwhile
         const std::string name = entry.path().filename().string();
         const bool process = name.find_first_not_of("0123456789") == std::string::npos;
         if (process && line.find(text) != std::string::npos && IsRunning(std::stoi(name))) {

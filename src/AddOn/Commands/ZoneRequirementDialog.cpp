@@ -123,8 +123,9 @@ void ZoneRequirementDialog::Click(std::int16_t item) {
 
 void ZoneRequirementDialog::Change(std::int16_t item) {
     if (item == Item::Standard) {
-        standard =
-            static_cast<Simulation::ReferenceStandard>(Host::SelectedEntry(dialog, item) - 1);
+        if (const std::int16_t entry = Host::SelectedEntry(dialog, item); entry >= 1) {
+            standard = static_cast<Simulation::ReferenceStandard>(entry - 1);
+        }
         return;
     }
     ZoneRequirementRow* const row = Selected();
@@ -159,8 +160,10 @@ void ZoneRequirementDialog::ChooseActivity(ZoneRequirementRow& row) {
 
 void ZoneRequirementDialog::ChooseScreens(ZoneRequirementRow& row) const {
     const std::int16_t entry = Host::SelectedEntry(dialog, Item::Screens);
-    row.requirement.screens = ScreensByEntry[static_cast<std::size_t>(entry - 1)];
-    row.suggested = false;
+    if (entry >= 1) {
+        row.requirement.screens = ScreensByEntry[static_cast<std::size_t>(entry - 1)];
+        row.suggested = false;
+    }
 }
 
 void ZoneRequirementDialog::TakeNumbers(ZoneRequirementRow& row) const {
@@ -170,6 +173,9 @@ void ZoneRequirementDialog::TakeNumbers(ZoneRequirementRow& row) const {
 }
 
 void ZoneRequirementDialog::UseForAll(std::int16_t chosen) {
+    if (chosen < 1) {
+        return;
+    }
     const ZoneRequirementRow& model = rows[static_cast<std::size_t>(chosen - 1)];
     for (std::size_t i = 0; i < rows.size(); ++i) {
         rows[i].requirement = model.requirement;
@@ -194,8 +200,10 @@ void ZoneRequirementDialog::ShowSelectedZone() {
 /// no change.
 void ZoneRequirementDialog::ListActivities() {
     const std::int16_t sectionEntry = Host::SelectedEntry(dialog, Item::Section);
-    const std::int32_t section =
-        Simulation::TaskSections()[static_cast<std::size_t>(sectionEntry - 1)].first;
+    const std::int32_t section = // none where the host tells no entry
+        sectionEntry >= 1
+            ? Simulation::TaskSections()[static_cast<std::size_t>(sectionEntry - 1)].first
+            : 0;
     const ZoneRequirementRow* const row = Selected();
     const TaskRow* const chosen = row ? Simulation::FindTask(row->requirement.taskId) : nullptr;
 

@@ -29,7 +29,8 @@ struct Step {
 bool ProcessLives(const std::string& text) {
     for (const fs::directory_entry& entry : fs::directory_iterator("/proc")) {
         std::ifstream file(entry.path() / "cmdline");
-        std::string line{std::istreambuf_iterator<char>(file), {}};
+        std::string line;
+        std::getline(file, line); // throws nothing where the process ends meanwhile
         std::replace(line.begin(), line.end(), '\0', ' ');
         if (line.find(text) != std::string::npos) {
             return true;

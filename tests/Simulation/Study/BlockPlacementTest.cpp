@@ -1,3 +1,4 @@
+#include <cmath>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -152,7 +153,7 @@ TEST(PlaceBlocks, HoldsOnALargeFloor) {
         std::vector<BlockRequest> blocks;
         for (int i = 0; i < 60; ++i) {
             const double x = 10.0 * (i % 10);
-            const double y = 10.0 * (i / 10);
+            const double y = 10.0 * std::floor(i / 10.0);
             blocks.push_back({{{x, y}, {x + 9.0, y + 9.0}}, 12.0, 15.0});
         }
         ExpectClear(blocks, occupied, 0.3);

@@ -46,11 +46,11 @@ std::vector<std::string> Read(const Paragraphs& paragraphs) {
 }
 
 const SummaryParagraph& Find(const Paragraphs& paragraphs, const std::string& beginning) {
-    static const SummaryParagraph none;
+    static const SummaryParagraph None;
     const auto found = std::find_if(paragraphs.begin(), paragraphs.end(), [&](const auto& one) {
         return TextOf(one).starts_with(beginning);
     });
-    return found != paragraphs.end() ? *found : none;
+    return found != paragraphs.end() ? *found : None;
 }
 
 TEST(BuildZoneSummary, TellsAZoneWithoutActivityInPlainWords) {
