@@ -148,7 +148,8 @@ Bounds2D TextBounds(const PlacedText& text, double millimetre) {
     const double height = text.height * millimetre;
     const auto anchor = static_cast<std::int32_t>(text.anchor);
     const double left = text.position.x - width * (anchor % 3) / 2.0;
-    const double bottom = text.position.y - height * (2 - anchor / 3) / 2.0;
+    const int rowsBelow = 2 - anchor / 3;
+    const double bottom = text.position.y - height * rowsBelow / 2.0;
     return {{left, bottom}, {left + width, bottom + height}};
 }
 

@@ -40,6 +40,7 @@ protected:
 
     static void Select(const std::vector<std::uint32_t>& numbers) {
         std::vector<Host::Guid> guids;
+        guids.reserve(numbers.size());
         for (const std::uint32_t number : numbers) {
             guids.push_back(Tests::NumberedGuid(number));
         }
