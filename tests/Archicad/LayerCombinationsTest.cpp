@@ -11,14 +11,14 @@ using Host::LayerState;
 class LayerCombinations : public Tests::AttributeTest {
 protected:
     static const Host::LayerCombination& Named(std::string_view name) {
-        static const Host::LayerCombination none;
+        static const Host::LayerCombination None;
         for (const auto& entry : Open().combinations) {
             if (entry.second.name == name) {
                 return entry.second;
             }
         }
         ADD_FAILURE() << "no combination " << name;
-        return none;
+        return None;
     }
 
     /// Names of the layers that a combination hides, in its order.

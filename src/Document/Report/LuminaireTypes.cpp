@@ -65,7 +65,7 @@ void TakeLuminaire(const SceneLuminaire& luminaire, LuminaireType& type) {
 } // namespace
 
 std::string LuminaireTypeName(const SceneLuminaire& luminaire) {
-    const std::string name = Photometry::TypeKeyName(luminaire.typeKey);
+    std::string name = Photometry::TypeKeyName(luminaire.typeKey);
     if (!name.empty()) {
         return name;
     }
