@@ -88,8 +88,8 @@ struct SharedCalculation : SmallCalculation {
 };
 
 const SharedCalculation& Shared() {
-    static const SharedCalculation calculation;
-    return calculation;
+    static const SharedCalculation Once;
+    return Once;
 }
 
 } // namespace
