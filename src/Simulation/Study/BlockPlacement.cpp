@@ -223,6 +223,7 @@ Box FindPlace(const Search& search) {
 Obstacles ObstaclesOf(const std::vector<BlockRequest>& blocks,
                       const std::vector<Bounds2D>& occupied) {
     std::vector<Box> owners;
+    owners.reserve(blocks.size());
     for (const BlockRequest& block : blocks) {
         owners.push_back(BoxOf(block.owner));
     }

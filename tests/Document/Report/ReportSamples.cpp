@@ -113,11 +113,20 @@ ReportSample ManyZones(int count) {
     for (int i = 0; i < count; ++i) {
         const std::string x = std::to_string(5 * i);
         const std::string end = std::to_string(5 * i + 4);
-        zones += (i > 0 ? "," : "") + std::string(R"({"nome": "Sala )") + std::to_string(i + 1) +
-                 R"(", "altura": 3, "espacamento": 0.5, "atividade": "s22.2", "contorno": [[)" + x +
-                 ", 0], [" + end + ", 0], [" + end + ", 4], [" + x + ", 4]]}";
-        lights += (i > 0 ? "," : "") + std::string(R"({"ies": "painel.ies", "posicao": [)") +
-                  std::to_string(5 * i + 2) + ", 2, 3]}";
+        const std::string comma = i > 0 ? "," : "";
+        for (const std::string& piece :
+             {comma, std::string(R"({"nome": "Sala )"), std::to_string(i + 1),
+              std::string(R"(", "altura": 3, "espacamento": 0.5, "atividade": "s22.2", )"
+                          R"("contorno": [[)"),
+              x, std::string(", 0], ["), end, std::string(", 0], ["), end, std::string(", 4], ["),
+              x, std::string(", 4]]}")}) {
+            zones += piece;
+        }
+        for (const std::string& piece :
+             {comma, std::string(R"({"ies": "painel.ies", "posicao": [)"),
+              std::to_string(5 * i + 2), std::string(", 2, 3]}")}) {
+            lights += piece;
+        }
     }
     return CalculateSample(R"({"formato": 1, "zonas": [)" + zones + R"(], "luminarias": [)" +
                            lights + "]}");
