@@ -98,9 +98,10 @@ void AddRoom(Tower& tower, int storey, int place) {
             corners[i], corners[(i + 1) % 4], 0.0, 0.1, 0.0, WallHeight, {1}, {1}, {1}};
     }
     for (int i = 0; i < LuminairesInEach; ++i) {
+        const int row = i / 5;
         Host::ObjectData lamp;
         lamp.libraryIndex = (place * LuminairesInEach + i) % Types + 1;
-        lamp.position = {x + 1.5 + i % 5 * 2.2, y + 2.5 + i / 5 * 5.0};
+        lamp.position = {x + 1.5 + i % 5 * 2.2, y + 2.5 + row * 5.0};
         lamp.level = 2.75;
         AddElement(tower, storey, Host::ElementType::Lamp).element.data = lamp;
     }

@@ -91,7 +91,8 @@ void AddWall(FloorMaker& floor, Host::Coordinate begin, Host::Coordinate end) {
 
 void AddRoom(FloorMaker& floor, int place) {
     const double x = place % RoomsInARow * (RoomWidth + 0.1);
-    const double y = place / RoomsInARow * (RoomDepth + 0.1);
+    const int row = place / RoomsInARow;
+    const double y = row * (RoomDepth + 0.1);
     ProjectElement& zone = AddElement(floor, Host::ElementType::Zone);
     zone.element.data =
         Host::ZoneData{"Sala " + std::to_string(place + 1), "", 0.0, RoomHeight, {x, y}};
@@ -101,10 +102,11 @@ void AddRoom(FloorMaker& floor, int place) {
     AddWall(floor, {x + RoomWidth, y + RoomDepth}, {x, y + RoomDepth});
     AddWall(floor, {x, y + RoomDepth}, {x, y});
     for (int lamp = 0; lamp < LampsAlong * LampsAcross; ++lamp) {
+        const int line = lamp / LampsAlong;
         Host::ObjectData object;
         object.libraryIndex = 1;
         object.position = {x + (lamp % LampsAlong + 0.5) * RoomWidth / LampsAlong,
-                           y + (lamp / LampsAlong + 0.5) * RoomDepth / LampsAcross};
+                           y + (line + 0.5) * RoomDepth / LampsAcross};
         object.level = RoomHeight - 0.05;
         AddElement(floor, Host::ElementType::Lamp).element.data = object;
     }
