@@ -84,7 +84,8 @@ ProjectElement& AddElement(Tower& tower, int storey, Host::ElementType type) {
 
 void AddRoom(Tower& tower, int storey, int place) {
     const double x = place % 5 * RoomWidth;
-    const double y = place / 5 * RoomDepth;
+    const int roomRow = place / 5;
+    const double y = roomRow * RoomDepth;
     const Host::Coordinate corners[] = {{x + 0.1, y + 0.1},
                                         {x + RoomWidth - 0.1, y + 0.1},
                                         {x + RoomWidth - 0.1, y + RoomDepth - 0.1},
