@@ -23,11 +23,16 @@ enum class ParameterType : std::int32_t {
     Boolean = 13,
     Separator = 14,
     Title = 15,
+    BuildingMaterial = 16,
+    Profile = 17,
+    Dictionary = 18,
 };
 
 /// Flags of a parameter.
 inline constexpr std::int32_t ParameterChild = 0x01;
 inline constexpr std::int32_t ParameterBoldName = 0x02;
+inline constexpr std::int32_t ParameterFixed = 0x04;  ///< the host's or the subtype's own
+inline constexpr std::int32_t ParameterUnique = 0x08; ///< stays when the part is replaced
 inline constexpr std::int32_t ParameterOpen = 0x20;
 inline constexpr std::int32_t ParameterDisabled = 0x40;
 inline constexpr std::int32_t ParameterHidden = 0x80;

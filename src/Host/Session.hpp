@@ -18,6 +18,13 @@ ErrorCode GetOwnLocation(std::wstring& path);
 /// and `path` is left as it was.
 ErrorCode GetTemporaryFolder(std::wstring& path);
 
+/// The host's special folders, by the numbers that it gives them.
+enum class SpecialFolder : std::int32_t { UserDocuments = 6 };
+
+/// Full path of a special folder, without a separator at its end. BadParameters for a number
+/// without one; on failure `path` is left as it was.
+ErrorCode GetSpecialFolder(SpecialFolder folder, std::wstring& path);
+
 /// Writes one line into the host's report window; when `withDialog` is set an alert shows it too.
 /// `format` is a printf format without arguments, in UTF-8: a percent sign is written "%%".
 void WriteReport(std::string_view format, bool withDialog);

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "Host/Elements.hpp"
-#include "Workbench/Bodies/ElementBodies.hpp"
-#include "Workbench/Bodies/ElementBounds.hpp"
 #include "Workbench/Display/TextBlock.hpp"
+#include "Workbench/Model/ElementBodies.hpp"
+#include "Workbench/Model/ElementBounds.hpp"
 #include "Workbench/Project/DrawnExtent.hpp"
 #include "Workbench/Project/ElementRules.hpp"
 #include "Workbench/Session.hpp"

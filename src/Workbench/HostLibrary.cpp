@@ -17,6 +17,16 @@ const ProjectPart* FindPart(std::int32_t index) {
     return place < 0 ? nullptr : &CurrentSession().project.parts[static_cast<std::size_t>(place)];
 }
 
+LibraryPart DescribePart(std::int32_t index, const ProjectPart& found) {
+    LibraryPart part;
+    part.index = index;
+    part.name = found.name;
+    part.mainGuid = found.mainGuid;
+    part.isLamp = found.isLamp;
+    part.type = found.isLamp ? PartType::Lamp : PartType::Object;
+    return part;
+}
+
 } // namespace
 
 ErrorCode GetLibraryPart(std::int32_t index, LibraryPart& part) {
@@ -27,7 +37,7 @@ ErrorCode GetLibraryPart(std::int32_t index, LibraryPart& part) {
     if (!found) {
         return BadIndex;
     }
-    part = {index, found->name, found->mainGuid, found->isLamp};
+    part = DescribePart(index, *found);
     return NoError;
 }
 
@@ -41,8 +51,8 @@ ErrorCode FindLibraryPart(std::string_view name, LibraryPart& part) {
     if (found == parts.end()) {
         return BadName;
     }
-    part = {Workbench::LibraryIndexOf(static_cast<std::size_t>(found - parts.begin())), found->name,
-            found->mainGuid, found->isLamp};
+    const auto place = static_cast<std::size_t>(found - parts.begin());
+    part = DescribePart(Workbench::LibraryIndexOf(place), *found);
     return NoError;
 }
 

@@ -1,8 +1,8 @@
 #include <utility>
 
 #include "Host/Model3D.hpp"
-#include "Workbench/Bodies/ElementBodies.hpp"
-#include "Workbench/Bodies/ScriptSurfaces.hpp"
+#include "Workbench/Model/ElementBodies.hpp"
+#include "Workbench/Model/ScriptSurfaces.hpp"
 #include "Workbench/Project/ElementRules.hpp"
 #include "Workbench/Session.hpp"
 

@@ -6,8 +6,8 @@
 
 #include "Host/Elements.hpp"
 #include "Host/Model3D.hpp"
-#include "Workbench/Bodies/ElementBodies.hpp"
-#include "Workbench/Bodies/ElementBounds.hpp"
+#include "Workbench/Model/ElementBodies.hpp"
+#include "Workbench/Model/ElementBounds.hpp"
 #include "Workbench/Session.hpp"
 
 namespace Merivane::Workbench {

@@ -5,13 +5,13 @@
 #include <utility>
 #include <vector>
 
-#include "Workbench/Bodies/ElementBodies.hpp"
 #include "Workbench/Display/BodyCut.hpp"
 #include "Workbench/Display/CutStyle.hpp"
 #include "Workbench/Display/DrawnElements.hpp"
 #include "Workbench/Display/SeenOutlines.hpp"
 #include "Workbench/Display/ShownModel.hpp"
 #include "Workbench/Display/WindowDrawing.hpp"
+#include "Workbench/Model/ElementBodies.hpp"
 
 namespace Merivane::Workbench {
 

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <cstddef>
 
-#include "Workbench/Bodies/ElementBodies.hpp"
 #include "Workbench/Bodies/PolygonRings.hpp"
-#include "Workbench/Bodies/ScriptSurfaces.hpp"
 #include "Workbench/Display/DrawnElements.hpp"
+#include "Workbench/Model/ElementBodies.hpp"
+#include "Workbench/Model/ScriptSurfaces.hpp"
 #include "Workbench/Project/ElementIndex.hpp"
 
 namespace Merivane::Workbench {

@@ -6,7 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include "Workbench/Bodies/ElementBodies.hpp"
 #include "Workbench/Display/BodyCut.hpp"
 #include "Workbench/Display/CutStyle.hpp"
 #include "Workbench/Display/DrawnElements.hpp"
@@ -14,6 +13,7 @@
 #include "Workbench/Display/PaperDrawing.hpp"
 #include "Workbench/Display/PlanModel.hpp"
 #include "Workbench/Display/ShownModel.hpp"
+#include "Workbench/Model/ElementBodies.hpp"
 
 namespace Merivane::Workbench {
 

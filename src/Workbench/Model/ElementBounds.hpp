@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Host/Types.hpp"
-#include "Workbench/Bodies/ElementBodies.hpp"
+#include "Workbench/Model/ElementBodies.hpp"
 
 namespace Merivane::Workbench {
 

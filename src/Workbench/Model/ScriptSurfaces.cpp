@@ -1,4 +1,4 @@
-#include "Workbench/Bodies/ScriptSurfaces.hpp"
+#include "Workbench/Model/ScriptSurfaces.hpp"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "Workbench/Bodies/ElementBodies.hpp"
+#include "Workbench/Model/ElementBodies.hpp"
 
 #include <algorithm>
 #include <cstddef>
@@ -7,7 +7,7 @@
 
 #include "Workbench/Bodies/FacedBody.hpp"
 #include "Workbench/Bodies/GivenBodies.hpp"
-#include "Workbench/Bodies/ScriptSurfaces.hpp"
+#include "Workbench/Model/ScriptSurfaces.hpp"
 #include "Workbench/Bodies/SolidBodies.hpp"
 #include "Workbench/Bodies/WallBody.hpp"
 

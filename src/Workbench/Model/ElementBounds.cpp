@@ -1,4 +1,4 @@
-#include "Workbench/Bodies/ElementBounds.hpp"
+#include "Workbench/Model/ElementBounds.hpp"
 
 #include <variant>
 #include <vector>
