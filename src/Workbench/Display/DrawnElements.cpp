@@ -11,7 +11,7 @@
 #include "Text/Number.hpp"
 #include "Workbench/Bodies/PolygonRings.hpp"
 #include "Workbench/Display/CurvePoints.hpp"
-#include "Workbench/Display/PatternLines.hpp"
+#include "Workbench/Display/FilledRings.hpp"
 #include "Workbench/Display/PenLook.hpp"
 #include "Workbench/Display/TextBlock.hpp"
 
@@ -22,9 +22,7 @@ namespace {
 using Drawing::Point;
 
 constexpr double WholeTurn = 2.0 * std::numbers::pi;
-constexpr double FillBleed = 0.02;      // keeps the paper from shining through between fills [mm]
-constexpr double PatternDistance = 2.0; // [mm]
-constexpr double StampName = 2.5;       // heights of capitals [mm]
+constexpr double StampName = 2.5; // heights of capitals [mm]
 constexpr double StampDetail = 1.8;
 constexpr Drawing::Stroke ZoneStroke = {0.13, {0.45, 0.45, 0.45}, {}};
 constexpr Drawing::Color StampColor = {0.15, 0.15, 0.15};
@@ -81,30 +79,13 @@ struct ElementDrawer {
                               false, StrokeOf(project, spline.pen, spline.lineType)});
     }
 
-    void AddPattern(const std::vector<std::vector<Point>>& rings, double angle,
-                    const Drawing::Color& color) const {
-        for (const auto& [from, to] : PatternLines(rings, angle, PatternDistance)) {
-            drawing.fills.emplace_back(Drawing::Polyline{{from, to}, false, {0.13, color, {}}});
-        }
-    }
-
     void operator()(const Host::HatchData& hatch) const {
         const std::vector<std::vector<Point>> rings = Rings();
-        const auto fill = project.fills.find(hatch.fill.value);
-        const Host::FillKind kind =
-            fill == project.fills.end() ? Host::FillKind::Solid : fill->second.kind;
         const Host::Colour& own = hatch.foreground;
         const Drawing::Color color = hatch.hasForeground
                                          ? Drawing::Color{own.red, own.green, own.blue}
                                          : LookOfPen(hatch.fillPen).color;
-        if (kind == Host::FillKind::Solid) {
-            drawing.fills.emplace_back(Drawing::Area{rings, color, FillBleed});
-        } else if (kind != Host::FillKind::Empty) {
-            AddPattern(rings, std::numbers::pi / 4.0, color);
-            if (kind == Host::FillKind::Symbol) {
-                AddPattern(rings, -std::numbers::pi / 4.0, color);
-            }
-        }
+        AddFilledRings(project, hatch.fill, color, rings, drawing.fills);
         if (hatch.contourPen > 0) {
             for (const std::vector<Point>& ring : rings) {
                 drawing.curves.emplace_back(
