@@ -36,6 +36,7 @@ struct Walk {
     std::vector<PolylineContour>& contours;
     PolylineContour open = {};
     std::size_t pointCount = 0;
+    std::size_t row = 0; ///< that is being followed
     Coordinate tangent = {1.0, 0.0};
     Coordinate center = {};
 };
@@ -55,6 +56,7 @@ void AddPoint(Walk& walk, const Coordinate& point, std::int32_t status, bool onA
     walk.open.points.push_back(point);
     walk.open.status.push_back(status);
     walk.open.onArc.push_back(onArc);
+    walk.open.rows.push_back(walk.row);
     ++walk.pointCount;
 }
 
@@ -97,6 +99,7 @@ void ArcAround(Walk& walk, const Coordinate& center, double angle, std::int32_t 
     const double begin = std::atan2(from.y - center.y, from.x - center.x);
     const std::int32_t segments = ArcSegments(walk.resolution, radius, angle);
     walk.open.status.back() = status;
+    walk.open.rows.back() = walk.row;
     for (std::int32_t i = 1; i <= segments; ++i) {
         const double turned = angle * Degree * i / segments;
         AddPoint(walk, OnCircle(center, radius, begin + turned), status, i < segments);
@@ -281,6 +284,7 @@ std::string ExpandPolyline(const std::vector<PolylineRow>& rows, const CurveReso
         if (std::string refusal = FollowRow(walk, row); !refusal.empty()) {
             return refusal;
         }
+        ++walk.row;
         if (walk.pointCount > walk.pointLimit) {
             return "pontos demais em um contorno";
         }
@@ -297,6 +301,7 @@ void CloseContours(std::vector<PolylineContour>& contours) {
             ring.points.pop_back();
             ring.status.pop_back();
             ring.onArc.pop_back();
+            ring.rows.pop_back();
         }
         ring.closed = true;
     }

@@ -41,7 +41,8 @@ struct PolylineContour {
     std::vector<Host::Coordinate> points;
     std::vector<std::int32_t> status;
     std::vector<bool> onArc;
-    bool closed = false; ///< by -1, 700 or a whole circle
+    bool closed = false;           ///< by -1, 700 or a whole circle
+    std::vector<std::size_t> rows; ///< for each edge the row, from 0, that its status is of
 
     bool operator==(const PolylineContour&) const = default;
 };

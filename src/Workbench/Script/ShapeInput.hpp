@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "Workbench/Script/ModelStatements.hpp"
+#include "Workbench/Script/ScriptPolyline.hpp"
+#include "Workbench/Script/ScriptValue.hpp"
+#include "Workbench/Script/ShapeSketch.hpp"
+
+/// The arguments of one statement while it reads them, and what is in force for it. Refusals are
+/// Portuguese, without the place; an empty text is none.
+namespace Merivane::Workbench {
+
+struct ShapeInput {
+    std::vector<double> numbers; ///< finite
+    std::size_t at = 0;          ///< the next to be read
+    CurveResolution curves;
+    std::int32_t surface = -1;
+    bool wire = false; ///< MODEL WIRE: lines alone
+};
+
+/// Reads arguments as numbers; a text and what is not finite is refused.
+std::string ReadNumbers(const std::vector<ScriptValue>& arguments, std::vector<double>& numbers);
+
+/// The next argument; 0 behind the last.
+double TakeNumber(ShapeInput& input);
+
+/// The next argument as a set of bits.
+std::int32_t TakeBits(ShapeInput& input);
+
+/// The next argument as a surface: an attribute's number, or -1 for 0, the colour of the pen.
+std::int32_t TakeSurface(ShapeInput& input);
+
+/// The next argument as a number of nodes, `least` or more.
+std::string TakeCount(ShapeInput& input, std::size_t least, std::size_t& count);
+
+/// Whether exactly so many arguments are left.
+std::string CheckRest(const ShapeInput& input, std::size_t rest);
+
+/// The next three arguments as a place.
+Host::Coordinate3D TakePlace(ShapeInput& input);
+
+/// True where all the bits of `bits` are set in a mask.
+inline bool HasBits(std::int32_t mask, std::int32_t bits) {
+    return (mask & bits) == bits;
+}
+
+} // namespace Merivane::Workbench
