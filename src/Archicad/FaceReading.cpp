@@ -9,14 +9,6 @@ namespace {
 
 using Simulation::Point3D;
 
-Point3D Place(const Host::Body& body, const Host::Coordinate3D& vertex) {
-    const auto& t = body.transform;
-    const auto row = [&](std::size_t at) {
-        return t[at] * vertex.x + t[at + 1] * vertex.y + t[at + 2] * vertex.z + t[at + 3];
-    };
-    return {row(0), row(4), row(8)};
-}
-
 /// The vertex that an edge begins at, as it is walked; null for an edge that is not there.
 const Host::Coordinate3D* BeginOf(const Host::Body& body, std::int32_t number) {
     const auto edge = static_cast<std::size_t>(std::int64_t{number} < 0 ? -std::int64_t{number}
@@ -31,6 +23,14 @@ const Host::Coordinate3D* BeginOf(const Host::Body& body, std::int32_t number) {
 }
 
 } // namespace
+
+Point3D PlaceInProject(const Host::Body& body, const Host::Coordinate3D& vertex) {
+    const auto& t = body.transform;
+    const auto row = [&](std::size_t at) {
+        return t[at] * vertex.x + t[at + 1] * vertex.y + t[at + 2] * vertex.z + t[at + 3];
+    };
+    return {row(0), row(4), row(8)};
+}
 
 std::vector<std::vector<Point3D>> ReadContours(const Host::Body& body, const Host::BodyFace& face) {
     std::vector<std::vector<Point3D>> contours;
@@ -47,7 +47,7 @@ std::vector<std::vector<Point3D>> ReadContours(const Host::Body& body, const Hos
         if (number == 0) {
             end();
         } else if (const Host::Coordinate3D* const vertex = BeginOf(body, number)) {
-            contour.push_back(Place(body, *vertex));
+            contour.push_back(PlaceInProject(body, *vertex));
         } else {
             sound = false;
         }
