@@ -12,6 +12,8 @@ struct HttpResult {
     std::uint32_t status = 0; ///< of the last answer, after redirects; 0 when none came
     std::string body;         ///< what was received, also of an answer that is not ok
     std::string error;        ///< one Portuguese sentence without accents; empty when ok
+
+    bool operator==(const HttpResult&) const = default;
 };
 
 /// Fetches what stands at an address (UTF-8, http or https) and waits for it; redirects are

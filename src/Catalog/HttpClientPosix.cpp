@@ -155,8 +155,8 @@ bool IsSecure(CURLU* address) {
 }
 
 /// Moves `address` to where an answer sends us; false when that is no address of the web.
-bool Move(CURLU* address, const char* location) {
-    return curl_url_set(address, CURLUPART_URL, location, AddressFlags) == CURLUE_OK &&
+bool Move(CURLU* address, const std::string& location) {
+    return curl_url_set(address, CURLUPART_URL, location.c_str(), AddressFlags) == CURLUE_OK &&
            IsWebScheme(Part(address, CURLUPART_SCHEME));
 }
 
@@ -175,8 +175,8 @@ HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes,
         const EasyHandle easy(curl_easy_init());
         SetRequest(easy.get(), address.get(), headers.get(), timeouts);
         const CURLcode code = RunTransfer(easy.get(), maxBytes, timeouts, result);
-        const char* location = code == CURLE_WRITE_ERROR ? Location(easy.get()) : nullptr;
-        if (location == nullptr) {
+        const std::string location = code == CURLE_WRITE_ERROR ? Location(easy.get()) : "";
+        if (location.empty()) {
             Conclude(easy.get(), code, url, result);
             return result;
         }

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "Catalog/HttpAnswer.hpp"
+#include "Text/Ascii.hpp"
 
 namespace Merivane::Catalog {
 
@@ -100,7 +101,7 @@ int OnTrace(CURL*, curl_infotype kind, char* bytes, std::size_t size, void* data
 std::size_t OnHeaderLine(char* bytes, std::size_t, std::size_t size, void* data) {
     const auto& transfer = *static_cast<const Transfer*>(data);
     const bool isEndOfHead = std::string_view(bytes, size) == "\r\n";
-    return isEndOfHead && Location(transfer.easy) != nullptr ? 0 : size;
+    return isEndOfHead && !Location(transfer.easy).empty() ? 0 : size;
 }
 
 std::size_t OnBody(char* bytes, std::size_t, std::size_t size, void* data) {
@@ -165,15 +166,15 @@ CURLcode RunTransfer(CURL* easy, std::uint64_t maxBytes, const HttpTimeouts& tim
     return Run(transfer, timeouts);
 }
 
-const char* Location(CURL* easy) {
+std::string Location(CURL* easy) {
     long status = 0;
     curl_easy_getinfo(easy, CURLINFO_RESPONSE_CODE, &status);
     curl_header* header = nullptr;
     if (status < FirstRedirectStatus || status >= FirstErrorStatus ||
         curl_easy_header(easy, "Location", 0, CURLH_HEADER, -1, &header) != CURLHE_OK) {
-        return nullptr;
+        return {};
     }
-    return *header->value != '\0' ? header->value : nullptr;
+    return std::string(Text::Trim(header->value)); // of an empty line the library leaves its end
 }
 
 } // namespace Merivane::Catalog

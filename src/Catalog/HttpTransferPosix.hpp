@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include <curl/curl.h>
 
@@ -16,8 +17,7 @@ namespace Merivane::Catalog {
 CURLcode RunTransfer(CURL* easy, std::uint64_t maxBytes, const HttpTimeouts& timeouts,
                      HttpResult& result);
 
-/// Where the answer that `easy` got sends us, as the server wrote it; null when it is no redirect.
-/// Valid until the next transfer.
-const char* Location(CURL* easy);
+/// Where the answer that `easy` got sends us, as the server wrote it; empty when it is no redirect.
+std::string Location(CURL* easy);
 
 } // namespace Merivane::Catalog
