@@ -5,12 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include "Catalog/Sha256.hpp"
 #include "Drawing/PngWriter.hpp"
 #include "Gdl/SymbolSheet.hpp"
 #include "Photometry/BuiltInSymbols.hpp"
 #include "Photometry/SymbolRows.hpp"
 #include "Support/Places.hpp"
-#include "Support/Sha256.hpp"
 #include "Text/Number.hpp"
 
 // The page of the plan symbols, held to their drawings. With VANTORO_REWRITE_SYMBOLS set its table
@@ -45,7 +45,7 @@ std::string DrawingDigest() {
             }
         }
     }
-    return Tests::Sha256(numbers).substr(0, 16);
+    return Catalog::Sha256Hex(numbers).substr(0, 16);
 }
 
 std::string PageEnd() {

@@ -94,7 +94,7 @@ const std::map<std::string, Folders> Layers = {
 };
 
 /// Folders whose sources use the standard library alone, but for the halves of an operating
-/// system.
+/// system or a processor.
 const Folders CoreFolders = {"Text",
                              "Photometry",
                              "Simulation",
@@ -119,9 +119,9 @@ std::string LayerOf(const std::string& path) {
     return path.substr(0, path.find('/'));
 }
 
-bool IsOperatingSystemHalf(const std::string& path) {
+bool IsSystemHalf(const std::string& path) {
     const std::string name = path.substr(0, path.find_last_of('.'));
-    return name.ends_with("Posix") || name.ends_with("Windows");
+    return name.ends_with("Posix") || name.ends_with("Windows") || name.ends_with("X86");
 }
 
 struct Include {
@@ -185,7 +185,7 @@ TEST(IncludeLayers, ProjectHeadersAreIncludedFromTheSourceRoot) {
 
 TEST(IncludeLayers, TheCoreUsesTheStandardLibraryAlone) {
     for (const Include& include : ReadIncludes()) {
-        if (include.quoted || IsOperatingSystemHalf(include.file) ||
+        if (include.quoted || IsSystemHalf(include.file) ||
             CoreFolders.count(LayerOf(include.file)) == 0) {
             continue;
         }
