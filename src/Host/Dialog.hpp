@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Host/Types.hpp"
+#include "Host/UserPicture.hpp"
 
 /// Dialogs and palettes from the add-on's resources. Items are known by their number in the
 /// resource, from 1; texts are UTF-8. A function that names an item which the dialog does not have,
@@ -17,6 +18,19 @@ namespace Merivane::Host {
 /// A dialog or palette that stands open.
 using DialogId = std::int32_t;
 
+/// What the mouse does on an item that the add-on paints itself. While its button is held the item
+/// keeps the mouse: moves and the release may lie outside of it. A double click follows a press and
+/// its release, and is itself followed by a release.
+enum class MouseAction { Wheel, Pressed, Moved, Released, DoubleClicked };
+
+struct MouseEvent {
+    MouseAction action = MouseAction::Moved;
+    ItemPoint position;
+    std::int16_t notches = 0; ///< of the wheel, above 0 away from the user
+
+    bool operator==(const MouseEvent&) const = default;
+};
+
 /// What a dialog tells the add-on. Changes that the add-on makes itself are not told to it.
 struct DialogEvents {
     std::function<void(DialogId)> opened;
@@ -24,6 +38,7 @@ struct DialogEvents {
     std::function<void(DialogId, std::int16_t item)> changed; ///< check box, field, pop-up
     std::function<void(DialogId, std::int16_t item)> listSelected;
     std::function<void(DialogId, std::int16_t item)> listDoubleClicked;
+    std::function<void(DialogId, std::int16_t item, const MouseEvent&)> mouseUsed; ///< user item
     /// Asked before a dialog closes by its frame or by `CloseDialog`; false keeps it open.
     std::function<bool(DialogId, bool accepted)> closeRequested;
 };
@@ -52,6 +67,9 @@ bool IsItemEnabled(DialogId dialog, std::int16_t item);
 void MoveItem(DialogId dialog, std::int16_t item, std::int16_t x, std::int16_t y);
 void GetItemPosition(DialogId dialog, std::int16_t item, std::int16_t& x, std::int16_t& y);
 
+/// Size of an item [pixels].
+void GetItemSize(DialogId dialog, std::int16_t item, std::int16_t& width, std::int16_t& height);
+
 /// Text of a static text, button, group box, check box or text field.
 void SetItemText(DialogId dialog, std::int16_t item, std::string_view text);
 std::string ItemText(DialogId dialog, std::int16_t item);
@@ -68,6 +86,9 @@ bool IsItemChecked(DialogId dialog, std::int16_t item);
 /// Icon of an icon button, by its resource.
 void SetItemIcon(DialogId dialog, std::int16_t item, std::int16_t icon);
 std::int16_t ItemIcon(DialogId dialog, std::int16_t item);
+
+/// What a user item shows until the next call; the host paints it whenever it is uncovered.
+void SetItemPicture(DialogId dialog, std::int16_t item, const UserPicture& picture);
 
 /// Adds an icon behind the last item; gives its number.
 std::int16_t AppendIcon(DialogId dialog, std::int16_t icon);

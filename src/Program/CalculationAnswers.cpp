@@ -126,8 +126,9 @@ bool RequirementItems(const CalculateArguments& arguments, const std::vector<Nam
 AnswerScript::iterator FindAnswer(AnswerScript& answers, std::int16_t dialog) {
     const Workbench::DialogResource* const resource = Workbench::FindDialog(dialog);
     return std::find_if(answers.begin(), answers.end(), [&](const DialogAnswer& answer) {
-        return !answer.alert && (answer.dialog.number == dialog ||
-                                 (resource && answer.dialog.text == resource->title));
+        return answer.kind == Workbench::AnswerKind::Dialog &&
+               (answer.dialog.number == dialog ||
+                (resource && answer.dialog.text == resource->title));
     });
 }
 

@@ -45,6 +45,9 @@ bool AddPicture(const Drawing::DisplayList& list, const std::string& name,
 
 void TellDialogs() {
     const Workbench::UserInterface& interface = Workbench::CurrentSession().userInterface;
+    for (const Workbench::ShownFileChoice& choice : interface.shownFileChoices) {
+        Tell(Workbench::FileChoiceText(choice));
+    }
     for (const Workbench::ShownDialog& dialog : interface.shownDialogs) {
         Tell(Workbench::DialogText(dialog));
     }

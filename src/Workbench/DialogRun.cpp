@@ -52,7 +52,29 @@ void Settle(DialogId dialog) {
     }
 }
 
+bool IsOpen(DialogId dialog) {
+    const OpenDialog* const open = Find(dialog);
+    return open && !open->closed;
+}
+
+/// Each movement by itself: one of them may close the dialog.
+void TellMouse(DialogId dialog, const DialogEvent& event) {
+    for (const Host::MouseEvent& each : event.mouse) {
+        if (!IsOpen(dialog)) {
+            return;
+        }
+        if (const auto running = Find(dialog)->events.mouseUsed) {
+            running(dialog, event.item, each);
+        }
+        Settle(dialog);
+    }
+}
+
 void Tell(DialogId dialog, const DialogEvent& event) {
+    if (event.kind == DialogEventKind::MouseUsed) {
+        TellMouse(dialog, event);
+        return;
+    }
     const OpenDialog* const open = Find(dialog);
     using Handler = std::function<void(DialogId, std::int16_t)>;
     const std::pair<DialogEventKind, const Handler*> handlers[] = {
@@ -86,11 +108,6 @@ bool DoSteps(DialogId dialog, const ItemAnswer& answer, std::string& error) {
         }
     }
     return true;
-}
-
-bool IsOpen(DialogId dialog) {
-    const OpenDialog* const open = Find(dialog);
-    return open && !open->closed;
 }
 
 bool PressButton(DialogId dialog, const NumberOrText& button) {
@@ -133,12 +150,6 @@ bool CarryOut(DialogId dialog, const DialogAnswer& answer) {
     return answer.button ? PressButton(dialog, *answer.button) : PressDefault(dialog);
 }
 
-std::string AnswerName(const DialogAnswer& answer) {
-    const std::string name = answer.dialog.number != 0 ? std::to_string(answer.dialog.number)
-                                                       : '"' + answer.dialog.text + '"';
-    return (answer.alert ? "o alerta " : "o diálogo ") + name;
-}
-
 /// Behind its last answer a dialog has to be closed.
 bool AnswerUnasked(DialogId dialog) {
     if (Interface().unanswered == Unanswered::Cancel) {
@@ -175,8 +186,9 @@ void AnswerDialog(DialogId dialog) {
 }
 
 bool IsAnswerTo(const DialogAnswer& answer, const ShownAlert& alert) {
-    return answer.alert && (alert.largeText.find(answer.dialog.text) != std::string::npos ||
-                            alert.smallText.find(answer.dialog.text) != std::string::npos);
+    return answer.kind == AnswerKind::Alert &&
+           (alert.largeText.find(answer.dialog.text) != std::string::npos ||
+            alert.smallText.find(answer.dialog.text) != std::string::npos);
 }
 
 /// The button that an answer presses; 0 where the alert does not have it.

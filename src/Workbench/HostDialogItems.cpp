@@ -64,6 +64,18 @@ void GetItemPosition(DialogId dialog, std::int16_t item, std::int16_t& x, std::i
     y = found ? static_cast<std::int16_t>(found->place.top) : std::int16_t{0};
 }
 
+void GetItemSize(DialogId dialog, std::int16_t item, std::int16_t& width, std::int16_t& height) {
+    const DialogItem* const found = Reach("GetItemSize", dialog, item);
+    width = found ? static_cast<std::int16_t>(found->place.width) : std::int16_t{0};
+    height = found ? static_cast<std::int16_t>(found->place.height) : std::int16_t{0};
+}
+
+void SetItemPicture(DialogId dialog, std::int16_t item, const UserPicture& picture) {
+    if (DialogItem* const found = Reach("SetItemPicture", dialog, item)) {
+        Workbench::SetPicture(*found, picture);
+    }
+}
+
 void SetItemText(DialogId dialog, std::int16_t item, std::string_view text) {
     if (DialogItem* const found = Reach("SetItemText", dialog, item)) {
         Workbench::SetText(*found, text);

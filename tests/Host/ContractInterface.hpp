@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "Host/Menus.hpp"
@@ -14,7 +15,8 @@ namespace Merivane::Host {
 /// - dialog `ContractDialog`, 300 x 200, "Prova": 1 button "OK", 2 button "Cancelar", 3 static text
 ///   "texto" at 10, 20, 4 whole number field from 2 to 8, 5 number field from 0 to 0.5, 6 empty
 ///   pop-up, 7 list with one choice, 8 check box "Caixa", 9 and 10 radio buttons of one group,
-///   11 text field, 12 group box "Grupo", 13 icon button with icon 10006, 14 separator;
+///   11 text field, 12 group box "Grupo", 13 icon button with icon 10006, 14 separator,
+///   15 user item of 40 x 30;
 /// - palette `ContractPalette`, "Paleta", with one button "Sair";
 /// - string list `ContractMenu`: "Menu", "Grupo", "um ^E3", "dois";
 /// - string list `ContractEmptyList` without strings.
@@ -32,6 +34,9 @@ void UserWillDo(std::string_view answers);
 
 /// True when all of it was done.
 bool UserHasDoneAll();
+
+/// An existing file of the user's that ends in ".txt".
+std::wstring FileOfTheUser();
 
 /// The user clicks on an item of a palette.
 bool ClickByUser(std::int32_t palette, std::int16_t item);

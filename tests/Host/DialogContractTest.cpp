@@ -6,6 +6,8 @@
 
 #include "ContractInterface.hpp"
 #include "Host/Dialog.hpp"
+#include "Host/FileChooser.hpp"
+#include "Text/Utf8.hpp"
 
 namespace Merivane::Host {
 namespace {
@@ -281,7 +283,7 @@ TEST_F(DialogContract, KeepsOneRadioButtonOfAGroup) {
 
 TEST_F(DialogContract, GivesAnEmptyAnswerForWhatIsNotThere) {
     WhileOpen([](DialogId dialog) {
-        for (const std::int16_t item : {std::int16_t{0}, std::int16_t{15}, std::int16_t{-1}}) {
+        for (const std::int16_t item : {std::int16_t{0}, std::int16_t{16}, std::int16_t{-1}}) {
             ShowItem(dialog, item, false);
             SetItemText(dialog, item, "x");
             EXPECT_EQ(ItemText(dialog, item), "");
@@ -305,6 +307,75 @@ TEST_F(DialogContract, GivesAnEmptyAnswerForWhatIsNotThere) {
     EXPECT_EQ(ItemCount(4711), 0); // no dialog either
     EXPECT_EQ(ItemText(4711, 1), "");
     CloseDialog(4711, true);
+}
+
+TEST_F(DialogContract, TellsWhatTheMouseDoesOnAUserItem) {
+    using enum MouseAction;
+    UserWillDo(R"([{"dialogo": 32110, "botao": 2, "itens": [
+        {"item": 15, "roda": {"em": [10, 20], "passos": -2}},
+        {"item": 15, "arrastar": {"de": [1, 2], "ate": [50, -3]}},
+        {"item": 15, "clicarDuasVezes": true}]}])");
+    DialogEvents events = Recording();
+    std::vector<MouseEvent> mouse;
+    events.mouseUsed = [&](DialogId, std::int16_t item, const MouseEvent& event) {
+        EXPECT_EQ(item, 15);
+        mouse.push_back(event);
+    };
+    bool accepted = true;
+    ASSERT_EQ(RunDialog(ContractDialog, events, accepted), NoError);
+    EXPECT_TRUE(UserHasDoneAll());
+    const ItemPoint start = {1.0, 2.0};
+    const ItemPoint end = {50.0, -3.0};
+    const ItemPoint middle = {20.0, 15.0};
+    EXPECT_EQ(mouse, (std::vector<MouseEvent>{{Wheel, {10.0, 20.0}, -1},
+                                              {Wheel, {10.0, 20.0}, -1},
+                                              {Moved, start},
+                                              {Pressed, start},
+                                              {Moved, end},
+                                              {Released, end},
+                                              {Pressed, middle},
+                                              {Released, middle},
+                                              {DoubleClicked, middle},
+                                              {Released, middle}}));
+    EXPECT_EQ(told, (Told{"opened", "clicked 2"}));
+}
+
+TEST_F(DialogContract, TakesPicturesForUserItemsAlone) {
+    WhileOpen([](DialogId dialog) {
+        UserPicture picture;
+        picture.shapes = {PictureLine{{{0.0, 0.0}, {40.0, 30.0}}, {}, 1.0},
+                          PictureText{"á", {1.0, 9.0}, {}}};
+        for (const std::int16_t item : {std::int16_t{15}, std::int16_t{3}, std::int16_t{16}}) {
+            SetItemPicture(dialog, item, picture);
+        }
+        EXPECT_EQ(ItemText(dialog, 3), "texto");
+    });
+}
+
+TEST_F(DialogContract, TellsTheSizeOfAnItem) {
+    WhileOpen([](DialogId dialog) {
+        std::int16_t width = -1;
+        std::int16_t height = -1;
+        GetItemSize(dialog, 15, width, height);
+        EXPECT_EQ(width, 40);
+        EXPECT_EQ(height, 30);
+        GetItemSize(dialog, 16, width, height);
+        EXPECT_EQ(width, 0);
+        EXPECT_EQ(height, 0);
+    });
+}
+
+TEST_F(DialogContract, GivesTheFileThatTheUserChooses) {
+    const FileFilter texts = {"Textos (*.txt)", "TXT"};
+    UserWillDo(R"([{"arquivo": "Escolha", "caminho": ")" + Text::Narrow(FileOfTheUser()) +
+               R"("}, {"arquivo": "Escolha", "cancelar": true}])");
+    std::wstring path = L"antes";
+    EXPECT_EQ(ChooseFile("Escolha", texts, path), NoError);
+    EXPECT_EQ(path, FileOfTheUser());
+    path = L"antes";
+    EXPECT_EQ(ChooseFile("Escolha", texts, path), Cancelled);
+    EXPECT_EQ(path, L"antes");
+    EXPECT_TRUE(UserHasDoneAll());
 }
 
 TEST_F(DialogContract, AnswersAnAlertByTheNumberOfItsButton) {

@@ -1,5 +1,7 @@
 #include "ContractInterface.hpp"
 
+#include "Support/Places.hpp"
+#include "Text/NativePath.hpp"
 #include "Workbench/DialogRun.hpp"
 #include "Workbench/MenuRun.hpp"
 #include "Workbench/Project/Project.hpp"
@@ -26,6 +28,7 @@ const char* const Resources = R"(
     GroupBox 190 90 100 60 LargePlain Primary "Grupo"
     IconButton 200 110 26 26 10006 frame SquaredEdge
     Separator 10 160 280 2
+    UserItem 250 160 40 30
 }
 'GDLG' 32111 Palette 0 0 100 40 "Paleta" { Button 5 5 80 24 LargePlain "Sair" }
 'STR#' 32112 "menu" { "Menu" "Grupo" "um ^E3" "dois" }
@@ -55,6 +58,10 @@ void UserWillDo(std::string_view answers) {
 bool UserHasDoneAll() {
     std::string error;
     return Workbench::AllAnswersUsed(error);
+}
+
+std::wstring FileOfTheUser() {
+    return Text::WidePath(Tests::SourceFolder() / "CMakeLists.txt");
 }
 
 bool ClickByUser(std::int32_t palette, std::int16_t item) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 #include "Text/Number.hpp"
 
@@ -173,7 +174,64 @@ bool Click(const Step& step, Dialog& dialog, DialogEvent& event) {
     return IsRadio(item.resource.kind) || step.Refuse("não pode ser clicado");
 }
 
+/// Whether the mouse can stand on a place of an item: of a drawing, inside it.
+bool CheckPoint(const Step& step, const Host::ItemPoint& point) {
+    const DialogItem& item = *FindItem(step.dialog, step.item);
+    if (item.resource.kind != ItemKind::UserItem) {
+        return step.Refuse("não é um desenho");
+    }
+    const PixelBox& place = item.place;
+    const bool inside =
+        point.x >= 0.0 && point.x <= place.width && point.y >= 0.0 && point.y <= place.height;
+    return inside || step.Refuse("o ponto [" + ValueText(point.x) + ", " + ValueText(point.y) +
+                                 "] está fora do desenho (" + std::to_string(place.width) + " x " +
+                                 std::to_string(place.height) + ")");
+}
+
+using MouseEvents = std::vector<Host::MouseEvent>;
+
+/// A notch of the wheel each, as a host tells them.
+MouseEvents Notches(const WheelTurn& wheel) {
+    const auto single = static_cast<std::int16_t>(wheel.notches > 0 ? 1 : -1);
+    return MouseEvents(static_cast<std::size_t>(std::abs(wheel.notches)),
+                       {Host::MouseAction::Wheel, wheel.position, single});
+}
+
+bool UseMouse(const Step& step, const ItemAnswer& answer, DialogEvent& event) {
+    using enum Host::MouseAction;
+    const Host::ItemPoint& first = answer.point   ? *answer.point
+                                   : answer.wheel ? answer.wheel->position
+                                                  : answer.drag->from;
+    if (!CheckPoint(step, first)) {
+        return false;
+    }
+    event = {DialogEventKind::MouseUsed, step.item};
+    if (answer.point) {
+        event.mouse = {{Moved, first}};
+    } else if (answer.wheel) {
+        event.mouse = Notches(*answer.wheel);
+    } else {
+        event.mouse = {{Moved, first},
+                       {Pressed, first},
+                       {Moved, answer.drag->to},
+                       {Released, answer.drag->to}};
+    }
+    return true;
+}
+
+DialogEvent DoubleClickOnDrawing(std::int16_t number, const PixelBox& place) {
+    using enum Host::MouseAction;
+    const Host::ItemPoint middle = {place.width / 2.0, place.height / 2.0};
+    return {DialogEventKind::MouseUsed,
+            number,
+            {{Pressed, middle}, {Released, middle}, {DoubleClicked, middle}, {Released, middle}}};
+}
+
 bool DoubleClick(const Step& step, const DialogItem& item, DialogEvent& event) {
+    if (item.resource.kind == ItemKind::UserItem) {
+        event = DoubleClickOnDrawing(step.item, item.place);
+        return true;
+    }
     if (!IsList(item.resource.kind) || item.selected == 0) {
         return step.Refuse("não há uma linha selecionada para clicar duas vezes");
     }
@@ -198,6 +256,9 @@ std::vector<ItemAnswer> AnswerSteps(const ItemAnswer& answer) {
     add(&ItemAnswer::checked, answer.checked.has_value());
     add(&ItemAnswer::entry, answer.entry.has_value());
     add(&ItemAnswer::row, answer.row.has_value());
+    add(&ItemAnswer::point, answer.point.has_value());
+    add(&ItemAnswer::wheel, answer.wheel.has_value());
+    add(&ItemAnswer::drag, answer.drag.has_value());
     add(&ItemAnswer::click, answer.click);
     add(&ItemAnswer::doubleClick, answer.doubleClick);
     return steps;
@@ -217,6 +278,9 @@ bool ApplyAnswer(Dialog& dialog, const ItemAnswer& answer, DialogEvent& event, s
     }
     if (answer.doubleClick) {
         return DoubleClick(step, item, event);
+    }
+    if (answer.point || answer.wheel || answer.drag) {
+        return UseMouse(step, answer, event);
     }
     if (answer.value) {
         done = GiveNumber(step, item, *answer.value, changed);
@@ -260,8 +324,17 @@ bool FindButton(const Dialog& dialog, const NumberOrText& button, std::int16_t& 
 }
 
 bool IsAnswerTo(const DialogAnswer& answer, const Dialog& dialog) {
-    return !answer.alert && (answer.dialog.number != 0 ? answer.dialog.number == dialog.resource
-                                                       : answer.dialog.text == dialog.title);
+    return answer.kind == AnswerKind::Dialog &&
+           (answer.dialog.number != 0 ? answer.dialog.number == dialog.resource
+                                      : answer.dialog.text == dialog.title);
+}
+
+std::string AnswerName(const DialogAnswer& answer) {
+    const char* const kind = answer.kind == AnswerKind::Dialog  ? "o diálogo "
+                             : answer.kind == AnswerKind::Alert ? "o alerta "
+                                                                : "a escolha de arquivo ";
+    return kind + (answer.dialog.number != 0 ? std::to_string(answer.dialog.number)
+                                             : Quoted(answer.dialog.text));
 }
 
 std::string DialogName(const Dialog& dialog) {

@@ -127,6 +127,12 @@ void SetIcon(DialogItem& item, std::int16_t icon) {
     }
 }
 
+void SetPicture(DialogItem& item, const Host::UserPicture& picture) {
+    if (item.resource.kind == ItemKind::UserItem) {
+        item.picture = picture;
+    }
+}
+
 void ClearEntries(DialogItem& item) {
     item.entries.clear();
     if (item.resource.kind == ItemKind::PopupControl) {

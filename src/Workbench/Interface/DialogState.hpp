@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,7 @@ struct DialogItem {
     std::int16_t selected = 0;        ///< entry or row, from 1; 0 = none
     std::vector<Host::ListColumn> columns;
     std::vector<std::vector<std::string>> rows; ///< as many cells as columns
+    std::optional<Host::UserPicture> picture;   ///< of a drawing that the add-on has painted
     bool visible = true;
     bool enabled = true;
     std::string tooltip;
@@ -58,6 +60,7 @@ void SetNumber(DialogItem& item, double value); ///< held inside the limits; NaN
 void SetLimits(DialogItem& item, double lowest, double highest);
 void SetChecked(Dialog& dialog, std::int16_t item, bool checked); ///< a radio ends its group's
 void SetIcon(DialogItem& item, std::int16_t icon);
+void SetPicture(DialogItem& item, const Host::UserPicture& picture);
 void ClearEntries(DialogItem& item);
 void AppendEntry(DialogItem& item, std::string_view text);
 void SetEntryText(DialogItem& item, std::int16_t entry, std::string_view text);

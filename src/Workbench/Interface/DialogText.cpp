@@ -192,4 +192,9 @@ std::string AlertText(const ShownAlert& alert) {
     return text;
 }
 
+std::string FileChoiceText(const ShownFileChoice& choice) {
+    return "Arquivo \"" + choice.title + "\" [" + choice.filter.text + "]\n      " +
+           (choice.path.empty() ? "(cancelado)" : choice.path) + '\n';
+}
+
 } // namespace Merivane::Workbench

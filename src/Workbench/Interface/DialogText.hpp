@@ -18,4 +18,7 @@ std::string DialogText(const ShownDialog& shown);
 /// Kind, texts, buttons and the one that was pressed.
 std::string AlertText(const ShownAlert& alert);
 
+/// Title, what could be chosen, and what was.
+std::string FileChoiceText(const ShownFileChoice& choice);
+
 } // namespace Merivane::Workbench

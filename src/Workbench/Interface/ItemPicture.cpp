@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Text/Number.hpp"
+#include "Workbench/Interface/UserPicturePainting.hpp"
 
 namespace Merivane::Workbench {
 
@@ -292,7 +293,7 @@ void DrawSeparator(PixelCanvas& canvas, const DialogItem& item) {
                canvas.theme->groupEdge);
 }
 
-/// What the add-on draws itself, and kinds that none of its dialogs has.
+/// A drawing that is not painted yet, and kinds that none of the add-on's dialogs has.
 void DrawPlainBox(PixelCanvas& canvas, const DialogItem& item) {
     FillBox(canvas, item.place, canvas.theme->field);
     StrokeBox(canvas, item.place, canvas.theme->groupEdge);
@@ -327,6 +328,8 @@ void DrawItem(PixelCanvas& canvas, const DialogItem& item, bool isDefault) {
         DrawIcon(canvas, item.icon, item.place, !item.enabled);
     } else if (ShowsIcon(kind)) {
         DrawIconButton(canvas, item);
+    } else if (item.picture) {
+        DrawUserPicture(canvas, *item.picture, item.place);
     } else {
         DrawPlainBox(canvas, item);
     }

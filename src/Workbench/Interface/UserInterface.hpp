@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Host/Dialog.hpp"
+#include "Host/FileChooser.hpp"
 #include "Host/Menus.hpp"
 #include "Workbench/Interface/AnswerScript.hpp"
 #include "Workbench/Interface/DialogState.hpp"
@@ -35,6 +36,13 @@ struct ShownAlert {
     std::string smallText;
     std::vector<std::string> buttons;
     std::int16_t pressed = 1;
+};
+
+/// A choice of a file that was asked for.
+struct ShownFileChoice {
+    std::string title;
+    Host::FileFilter filter;
+    std::string path; ///< as the answer has it; empty = cancelled
 };
 
 /// A menu that the add-on has registered.
@@ -71,6 +79,7 @@ struct UserInterface {
     std::vector<Host::DialogId> palettes; ///< front one last
     std::vector<ShownDialog> shownDialogs;
     std::vector<ShownAlert> shownAlerts;
+    std::vector<ShownFileChoice> shownFileChoices;
 
     std::vector<RegisteredMenu> menus; ///< in their order
     std::vector<RegisteredPalette> registeredPalettes;

@@ -38,8 +38,39 @@ TEST(AnswerScript, ReadsDialogsAndAlerts) {
     EXPECT_TRUE(script[1].close);
     EXPECT_EQ(script[2].dialog, (NumberOrText{32650, ""}));
     EXPECT_FALSE(script[2].button);
-    EXPECT_TRUE(script[3].alert);
+    EXPECT_EQ(script[3].kind, AnswerKind::Alert);
     EXPECT_EQ(script[3].button, (NumberOrText{2, ""}));
+}
+
+TEST(AnswerScript, ReadsWhatTheMouseDoesOnADrawing) {
+    AnswerScript script;
+    std::string error;
+    ASSERT_TRUE(ParseAnswerScript(R"([{"dialogo": 1, "itens": [
+        {"item": 3, "apontar": [10, 20.5]},
+        {"item": 3, "roda": {"em": [1, 2], "passos": -100}},
+        {"item": 3, "arrastar": {"de": [3, 4], "ate": [-5, 6]}}]}])",
+                                  script, error))
+        << error;
+    ASSERT_EQ(script[0].items.size(), 3U);
+    EXPECT_EQ(script[0].items[0].point, (Host::ItemPoint{10.0, 20.5}));
+    EXPECT_EQ(script[0].items[1].wheel, (WheelTurn{{1.0, 2.0}, -100}));
+    EXPECT_EQ(script[0].items[2].drag, (MouseDrag{{3.0, 4.0}, {-5.0, 6.0}}));
+}
+
+TEST(AnswerScript, ReadsTheChoiceOfAFile) {
+    AnswerScript script;
+    std::string error;
+    ASSERT_TRUE(ParseAnswerScript(R"([{"arquivo": "Escolha", "caminho": "a/b.ies"},
+                                      {"arquivo": "Escolha", "cancelar": true},
+                                      {"dialogo": 1}])",
+                                  script, error))
+        << error;
+    EXPECT_EQ(script[0].kind, AnswerKind::File);
+    EXPECT_EQ(script[0].dialog, (NumberOrText{0, "Escolha"}));
+    EXPECT_EQ(script[0].path, "a/b.ies");
+    EXPECT_EQ(script[1].kind, AnswerKind::File);
+    EXPECT_EQ(script[1].path, "");
+    EXPECT_EQ(script[2].kind, AnswerKind::Dialog);
 }
 
 TEST(AnswerScript, RefusesWithThePlace) {
@@ -76,6 +107,26 @@ TEST(AnswerScript, RefusesWithThePlace) {
          "[0].itens[0].marcado: espera-se true ou false, mas há 1"},
         {R"([{"dialogo": 1, "botao": 1, "fechar": true}])",
          "[0]: \"botao\" e \"fechar\" não vêm juntos"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "apontar": [1]}]}])",
+         "[0].itens[0].apontar: espera-se um ponto [x, y], mas há uma lista de 1"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "apontar": [1, 10001]}]}])",
+         "[0].itens[0].apontar[1]: espera-se um número de -10000 a 10000, mas há 10001"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "roda": {"em": [1, 2]}}]}])",
+         "[0].itens[0].roda: falta a chave \"passos\""},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "roda": {"em": [1, 2], "passos": 0}}]}])",
+         "[0].itens[0].roda: \"passos\" não pode ser 0"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "roda": {"em": [1, 2], "passos": 101}}]}])",
+         "[0].itens[0].roda.passos: espera-se um número inteiro de -100 a 100, mas há 101"},
+        {R"([{"dialogo": 1, "itens": [{"item": 2, "arrastar": {"de": [1, 2]}}]}])",
+         "[0].itens[0].arrastar: falta a chave \"ate\""},
+        {R"([{"arquivo": "a"}])", "[0]: vem \"caminho\" ou \"cancelar\", um dos dois"},
+        {R"([{"arquivo": "a", "caminho": "b", "cancelar": true}])",
+         "[0]: vem \"caminho\" ou \"cancelar\", um dos dois"},
+        {R"([{"arquivo": "a", "caminho": ""}])",
+         "[0].caminho: espera-se um texto não vazio, em UTF-8 e numa linha só, mas há o texto "
+         "\"\""},
+        {R"([{"arquivo": "a", "botao": 1}])",
+         "[0]: chave desconhecida \"botao\" na escolha de um arquivo"},
         {R"([{"alerta": "a", "itens": []}])",
          "[0]: chave desconhecida \"itens\" na resposta a um alerta"},
     };
@@ -97,7 +148,7 @@ TEST(AnswerScript, ReadsTheExampleOfItsPage) {
     EXPECT_TRUE(
         ParseAnswerScript(page.substr(begin, page.find("```", begin) - begin), script, error))
         << error;
-    EXPECT_EQ(script.size(), 3U);
+    EXPECT_EQ(script.size(), 5U);
 }
 
 } // namespace

@@ -23,7 +23,8 @@ Dialog MakeProva() {
         TextEdit 0 0 9 9 LargePlain frame 3
         MultiLineEdit 0 0 9 9 LargePlain noFrame | readOnly VScroll
         Button 0 0 9 9 LargePlain "Cancelar"
-        PopupControl 0 0 9 9 200 20 })",
+        PopupControl 0 0 9 9 200 20
+        UserItem 20 30 100 60 })",
                                     script, error))
         << error;
     Dialog dialog = MakeDialog(100, script.dialogs.at(100), nullptr);
@@ -75,6 +76,18 @@ ItemAnswer DoubleClick(std::int16_t item) {
     answer.item = item;
     answer.doubleClick = true;
     return answer;
+}
+
+ItemAnswer Point(std::int16_t item, double x, double y) {
+    return Give(item, &ItemAnswer::point, Host::ItemPoint{x, y});
+}
+
+ItemAnswer Turn(std::int16_t item, std::int16_t notches) {
+    return Give(item, &ItemAnswer::wheel, WheelTurn{{10.0, 20.0}, notches});
+}
+
+ItemAnswer Drag(std::int16_t item, Host::ItemPoint from, Host::ItemPoint to) {
+    return Give(item, &ItemAnswer::drag, MouseDrag{from, to});
 }
 
 TEST(DialogAnswering, TellsTheEventThatAPersonWouldCause) {
@@ -139,7 +152,15 @@ TEST(DialogAnswering, RefusesWhatAPersonCouldNotDo) {
         std::string reason; ///< behind `diálogo "Prova" (100), item `
     };
     const Case cases[] = {
-        {Click(14), "14: o diálogo não tem este item"},
+        {Click(15), "15: o diálogo não tem este item"},
+        {Click(14), "14: não pode ser clicado"},
+        {Point(1, 1.0, 1.0), "1 (\"OK\"): não é um desenho"},
+        {Turn(6, 1), "6: não é um desenho"},
+        {Drag(3, {}, {}), "3: não é um desenho"},
+        {Point(14, 100.5, 60.0), "14: o ponto [100.5, 60] está fora do desenho (100 x 60)"},
+        {Point(14, 50.0, -1.0), "14: o ponto [50, -1] está fora do desenho (100 x 60)"},
+        {Drag(14, {50.0, 61.0}, {1.0, 1.0}),
+         "14: o ponto [50, 61] está fora do desenho (100 x 60)"},
         {Click(2), "2 (\"texto\"): não pode ser clicado"},
         {Click(3), "3: não pode ser clicado"},
         {GiveValue(1, 1.0), "1 (\"OK\"): não é um campo de número"},
@@ -206,12 +227,66 @@ TEST(DialogAnswering, FindsButtonsByNumberAndText) {
     EXPECT_EQ(error, "diálogo \"Prova\" (100), item 1 (\"OK\"): está desabilitado");
 }
 
+TEST(DialogAnswering, TellsEveryMovementOfTheMouseOnADrawing) {
+    using enum Host::MouseAction;
+    using Events = std::vector<Host::MouseEvent>;
+    struct Case {
+        ItemAnswer answer;
+        Events expected;
+    };
+    const Case cases[] = {
+        {Point(14, 0.0, 0.0), {{Moved, {0.0, 0.0}}}},
+        {Point(14, 100.0, 60.0), {{Moved, {100.0, 60.0}}}},
+        {Turn(14, 2), {{Wheel, {10.0, 20.0}, 1}, {Wheel, {10.0, 20.0}, 1}}},
+        {Turn(14, -1), {{Wheel, {10.0, 20.0}, -1}}},
+        // Held, the mouse can leave the drawing.
+        {Drag(14, {5.0, 6.0}, {-50.0, 70.0}),
+         {{Moved, {5.0, 6.0}},
+          {Pressed, {5.0, 6.0}},
+          {Moved, {-50.0, 70.0}},
+          {Released, {-50.0, 70.0}}}},
+        {DoubleClick(14),
+         {{Pressed, {50.0, 30.0}},
+          {Released, {50.0, 30.0}},
+          {DoubleClicked, {50.0, 30.0}},
+          {Released, {50.0, 30.0}}}},
+    };
+    for (const Case& c : cases) {
+        Dialog dialog = MakeProva();
+        DialogEvent event;
+        std::string error;
+        EXPECT_TRUE(ApplyAnswer(dialog, c.answer, event, error)) << error;
+        EXPECT_EQ(event.kind, DialogEventKind::MouseUsed);
+        EXPECT_EQ(event.item, 14);
+        EXPECT_EQ(event.mouse, c.expected);
+    }
+}
+
+TEST(DialogAnswering, NamesWhatAnAnswerIsMeantFor) {
+    DialogAnswer answer;
+    answer.dialog.number = 32650;
+    EXPECT_EQ(AnswerName(answer), "o diálogo 32650");
+    answer.dialog = {0, "Zona"};
+    EXPECT_EQ(AnswerName(answer), "o diálogo \"Zona\"");
+    answer.kind = AnswerKind::Alert;
+    EXPECT_EQ(AnswerName(answer), "o alerta \"Zona\"");
+    answer.kind = AnswerKind::File;
+    EXPECT_EQ(AnswerName(answer), "a escolha de arquivo \"Zona\"");
+}
+
 TEST(DialogAnswering, TakesAnAnswerApartInItsOrder) {
     ItemAnswer answer = GiveRow(6, {1, {}});
     answer.value = 3.0;
     answer.doubleClick = true;
+    answer.point = {1.0, 2.0};
+    answer.wheel = {{10.0, 20.0}, 3};
+    answer.drag = {{1.0, 1.0}, {2.0, 2.0}};
     const std::vector<ItemAnswer> steps = AnswerSteps(answer);
-    const std::vector<ItemAnswer> expected = {GiveValue(6, 3.0), GiveRow(6, {1, {}}),
+    const std::vector<ItemAnswer> expected = {GiveValue(6, 3.0),
+                                              GiveRow(6, {1, {}}),
+                                              Point(6, 1.0, 2.0),
+                                              Turn(6, 3),
+                                              Drag(6, {1.0, 1.0}, {2.0, 2.0}),
                                               DoubleClick(6)};
     EXPECT_EQ(steps, expected);
 }
