@@ -7,6 +7,8 @@
 #include <memory>
 #include <string_view>
 
+#include <locale.h>
+
 #include <curl/curl.h>
 
 #include "Catalog/HttpAnswer.hpp"
@@ -30,6 +32,29 @@ struct Release {
 using AddressHandle = std::unique_ptr<CURLU, Release>;
 using EasyHandle = std::unique_ptr<CURL, Release>;
 using ListHandle = std::unique_ptr<curl_slist, Release>;
+
+/// UTF-8 as the encoding of this thread: the library reads a server's name with accents in that of
+/// the locale, and a host may have set any.
+class Utf8Locale {
+public:
+    Utf8Locale() : own(::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)) {
+        if (own != nullptr) {
+            before = ::uselocale(own);
+        }
+    }
+    ~Utf8Locale() {
+        if (own != nullptr) {
+            ::uselocale(before);
+            ::freelocale(own);
+        }
+    }
+    Utf8Locale(const Utf8Locale&) = delete;
+    Utf8Locale& operator=(const Utf8Locale&) = delete;
+
+private:
+    locale_t own;
+    locale_t before = nullptr;
+};
 
 std::string Part(CURLU* address, CURLUPart part) {
     char* text = nullptr;
@@ -89,7 +114,8 @@ void SetRequest(CURL* easy, CURLU* address, curl_slist* headers, const HttpTimeo
     // A look-up that hangs is left behind, not waited for.
     curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
     // The certificates of a company's own proxy; the library does not look here by itself.
-    if (const char* certificates = std::getenv("SSL_CERT_FILE")) {
+    const char* certificates = std::getenv("SSL_CERT_FILE");
+    if (certificates != nullptr && *certificates != '\0') {
         curl_easy_setopt(easy, CURLOPT_CAINFO, certificates);
         curl_easy_setopt(easy, CURLOPT_PROXY_CAINFO, certificates);
     }
@@ -164,6 +190,7 @@ bool Move(CURLU* address, const std::string& location) {
 
 HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes,
                        const HttpTimeouts& timeouts) {
+    const Utf8Locale names;
     HttpResult result;
     const AddressHandle address = ParseAddress(url);
     if (!address) {

@@ -100,7 +100,8 @@ int OnTrace(CURL*, curl_infotype kind, char* bytes, std::size_t size, void* data
 /// have no end.
 std::size_t OnHeaderLine(char* bytes, std::size_t, std::size_t size, void* data) {
     const auto& transfer = *static_cast<const Transfer*>(data);
-    const bool isEndOfHead = std::string_view(bytes, size) == "\r\n";
+    const std::string_view line(bytes, size);
+    const bool isEndOfHead = line == "\r\n" || line == "\n";
     return isEndOfHead && !Location(transfer.easy).empty() ? 0 : size;
 }
 

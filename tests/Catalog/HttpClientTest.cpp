@@ -263,6 +263,19 @@ TEST_F(HttpClient, GoesThroughTheProxyOfTheEnvironment) {
               "GET http://catalogo.invalid/a.json HTTP/1.1\r\n");
 }
 
+TEST_F(HttpClient, AsksForANameWithAccentsInItsAsciiForm) {
+    const LoopbackServer proxy(AnswerWith(HttpAnswer("200 OK", "")));
+    const Tests::Variable variable("http_proxy", proxy.Address("/"));
+    for (const char* name : {"luminária", "LUMINÁRIA"}) {
+        EXPECT_EQ(Get("http://" + std::string(name) + ".invalid/"),
+                  (HttpResult{true, 200, "", ""}));
+    }
+    const std::string line = "GET http://xn--luminria-dza.invalid/ HTTP/1.1\r\n";
+    for (const std::string& head : proxy.Heads()) {
+        EXPECT_EQ(head.substr(0, line.size()), line);
+    }
+}
+
 TEST_F(HttpClient, GoesPastTheProxyWhereTheEnvironmentSaysSo) {
     const LoopbackServer proxy(AnswerWith(HttpAnswer("200 OK", "do proxy")));
     const LoopbackServer server(AnswerWith(HttpAnswer("200 OK", "direto")));

@@ -102,6 +102,13 @@ TEST_F(HttpRedirect, IsFollowedBeforeItsBodyEnds) {
     EXPECT_EQ(HttpGet(server.Address("/"), 3), (HttpResult{true, 200, "fim", ""}));
 }
 
+TEST_F(HttpRedirect, IsFollowedWhereTheLinesOfTheHeadEndInLineFeeds) {
+    const LoopbackServer server(
+        AnswerByPath({{"/a", "HTTP/1.1 302 Found\nLocation: /b\nContent-Length: 5\n\nmudou"},
+                      {"/b", HttpAnswer("200 OK", "fim")}}));
+    EXPECT_EQ(Get(server.Address("/a")), (HttpResult{true, 200, "fim", ""}));
+}
+
 TEST_F(HttpRedirect, ToWhatIsNoAddressOfTheWebIsRefused) {
     for (const char* location : {"ftp://127.0.0.1/a", "file:///etc/hostname", "javascript:a()",
                                  "http://", "http://nome:porta/"}) {

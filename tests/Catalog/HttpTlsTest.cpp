@@ -100,6 +100,14 @@ TEST_F(HttpTls, RefusesAServerThatSpeaksNoTls) {
     EXPECT_EQ(Get("https://127.0.0.1:" + std::to_string(chatty.Port()) + "/"), NotSecure);
 }
 
+TEST_F(HttpTls, KeepsTheSystemsCertificatesWhereTheEnvironmentNamesNone) {
+    const LoopbackServer plain(AnswerWith(HttpAnswer("200 OK", "")));
+    const TlsFront front(local, plain.Port());
+    const Variable none("SSL_CERT_FILE", "");
+    EXPECT_EQ(Get(Address("localhost", front, "/")), NotSecure);
+    EXPECT_TRUE(plain.Heads().empty());
+}
+
 TEST_F(HttpTls, TellsAFileOfCertificatesThatIsNotThere) {
     const LoopbackServer plain(AnswerWith(HttpAnswer("200 OK", "")));
     const TlsFront front(local, plain.Port());
