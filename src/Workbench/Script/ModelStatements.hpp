@@ -29,6 +29,7 @@ struct OpenBody {
     struct Edge {
         std::int32_t from = 0;
         std::int32_t to = 0;
+        bool visible = true;
     };
     struct Face {
         std::vector<std::int32_t> edges; ///< signed, from 1; 0 parts a hole
@@ -38,6 +39,7 @@ struct OpenBody {
     std::size_t vectorCount = 0;
     std::vector<Edge> edges;
     std::vector<Face> faces;
+    std::size_t sideCount = 0; ///< of all faces since BASE
 };
 
 /// A plane that CUTPLANE set, in the part's frame; what lies on its positive side goes.

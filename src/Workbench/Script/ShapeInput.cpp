@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace Merivane::Workbench {
 
@@ -51,6 +52,14 @@ std::string CheckRest(const ShapeInput& input, std::size_t rest) {
     }
     return "pede " + std::to_string(input.at + rest) + " argumentos e tem " +
            std::to_string(input.numbers.size());
+}
+
+std::size_t ChordsOf(const ShapeInput& input, double radius) {
+    return static_cast<std::size_t>(CircleSegments(input.curves, radius));
+}
+
+double AngleAt(std::size_t i, std::size_t count) {
+    return 2.0 * std::numbers::pi * static_cast<double>(i) / static_cast<double>(count);
 }
 
 Host::Coordinate3D TakePlace(ShapeInput& input) {

@@ -43,6 +43,15 @@ std::string CheckRest(const ShapeInput& input, std::size_t rest);
 /// The next three arguments as a place.
 Host::Coordinate3D TakePlace(ShapeInput& input);
 
+/// Chords of a whole circle of this radius [m].
+std::size_t ChordsOf(const ShapeInput& input, double radius);
+
+/// Angle of point i of a circle in `count` chords [rad].
+double AngleAt(std::size_t i, std::size_t count);
+
+/// What statements say of a radius or a length below 0.
+inline constexpr const char* NegativeLength = "pede medidas que não sejam negativas";
+
 /// True where all the bits of `bits` are set in a mask.
 inline bool HasBits(std::int32_t mask, std::int32_t bits) {
     return (mask & bits) == bits;

@@ -170,15 +170,23 @@ void FlattenFaces(FacedBody& body) {
     std::move(triangles.begin(), triangles.end(), std::back_inserter(body.faces));
 }
 
-void MoveToPart(FacedBody& body, const ScriptFrame& frame) {
-    for (Coordinate3D& vertex : body.vertices) {
-        vertex = TransformPlace(frame, vertex);
-    }
+bool IsMirrored(const ScriptFrame& frame) {
     const Coordinate3D x = {frame[0], frame[4], frame[8]};
     const Coordinate3D y = {frame[1], frame[5], frame[9]};
     const Coordinate3D z = {frame[2], frame[6], frame[10]};
-    if (Dot(Cross(x, y), z) < 0.0) {
-        TurnFaces(body);
+    return Dot(Cross(x, y), z) < 0.0;
+}
+
+void MoveToPart(ShapeSketch& sketch, const ScriptFrame& frame) {
+    for (Coordinate3D& vertex : sketch.body.vertices) {
+        vertex = TransformPlace(frame, vertex);
+    }
+    for (auto& [begin, end] : sketch.wires) {
+        begin = TransformPlace(frame, begin);
+        end = TransformPlace(frame, end);
+    }
+    if (IsMirrored(frame)) {
+        TurnFaces(sketch.body);
     }
 }
 

@@ -50,8 +50,11 @@ void FlattenFaces(FacedBody& body);
 /// Twice the area of a contour, along its normal (Newell).
 Host::Coordinate3D DoubledNormal(const FacedBody& body, const std::vector<std::int32_t>& contour);
 
-/// Brings a body from the frame of the script into the part's; where that mirrors, the faces still
-/// look outside.
-void MoveToPart(FacedBody& body, const ScriptFrame& frame);
+/// True for a frame that turns left into right.
+bool IsMirrored(const ScriptFrame& frame);
+
+/// Brings a sketch from the frame of the script into the part's; where that mirrors, the faces
+/// still look outside.
+void MoveToPart(ShapeSketch& sketch, const ScriptFrame& frame);
 
 } // namespace Merivane::Workbench

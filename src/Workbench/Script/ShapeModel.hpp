@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "Workbench/Script/ModelStatements.hpp"
+#include "Workbench/Script/ShapeSketch.hpp"
+
+/// From the sketch of one shape to the model.
+namespace Merivane::Workbench {
+
+/// An empty sketch with the room that the model has left.
+ShapeSketch StartSketch(const ModelBuild& build);
+
+/// Adds what a sketch holds, in the part's frame by now: cut by the planes in force, as faces or,
+/// with MODEL WIRE, as lines. Returns an empty text, or why the model can't take it, in Portuguese;
+/// then nothing was added.
+std::string AddToModel(ModelBuild& build, ShapeSketch& sketch);
+
+} // namespace Merivane::Workbench
