@@ -81,7 +81,8 @@ AddressHandle ParseAddress(const std::string& url) {
     }
     // The library forgives "http:/name" and "http:///name", nobody else does.
     const std::string scheme = Part(address.get(), CURLUPART_SCHEME);
-    const std::string_view rest = std::string_view(url).substr(scheme.size());
+    std::string_view rest = url;
+    rest.remove_prefix(scheme.size());
     if (!IsWebScheme(scheme) || !rest.starts_with("://") || rest.starts_with(":///")) {
         return nullptr;
     }

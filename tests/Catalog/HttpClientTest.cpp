@@ -39,16 +39,27 @@ TEST_F(HttpClient, ToldOfAFileThatIsMissingNamesTheAddress) {
 }
 
 TEST_F(HttpClient, TellsAnyOtherStatusByItsNumber) {
-    for (const char* status :
-         {"500 Internal Server Error", "401 Unauthorized", "403 Forbidden", "206 Partial Content",
-          "201 Created", "304 Not Modified", "301 Moved Permanently", "503 Busy", "599 X"}) {
-        const std::string number(status, 3);
-        const bool hasBody = number != "304";
-        const LoopbackServer server(AnswerWith(HttpAnswer(status, hasBody ? "corpo" : "")));
+    struct Case {
+        std::string status;
+        std::uint32_t number;
+        std::string body;
+        std::string words;
+    };
+    const Case cases[] = {
+        {"500 Internal Server Error", 500, "erro", "o servidor respondeu 500 para "},
+        {"503 Busy", 503, "erro", "o servidor respondeu 503 para "},
+        {"599 X", 599, "erro", "o servidor respondeu 599 para "},
+        {"401 Unauthorized", 401, "entre", "o servidor respondeu 401 para "},
+        {"403 Forbidden", 403, "", "o servidor respondeu 403 para "},
+        {"201 Created", 201, "criado", "o servidor respondeu 201 para "},
+        {"206 Partial Content", 206, "um pouco", "o servidor respondeu 206 para "},
+        {"301 Moved Permanently", 301, "sem lugar", "o servidor respondeu 301 para "},
+        {"304 Not Modified", 304, "", "o servidor respondeu 304 para "},
+    };
+    for (const Case& c : cases) {
+        const LoopbackServer server(AnswerWith(HttpAnswer(c.status, c.body)));
         const std::string url = server.Address("/catalogo.json");
-        EXPECT_EQ(Get(url), (HttpResult{false, static_cast<std::uint32_t>(std::stoi(number)),
-                                        hasBody ? "corpo" : "",
-                                        "o servidor respondeu " + number + " para " + url}));
+        EXPECT_EQ(Get(url), (HttpResult{false, c.number, c.body, c.words + url}));
     }
 }
 

@@ -18,7 +18,7 @@ namespace Merivane::Tests {
 
 Certificate MakeCertificate(const std::filesystem::path& folder, const std::string& names,
                             int days) {
-    const Certificate made{folder / "certificado.pem", folder / "chave.pem"};
+    Certificate made{folder / "certificado.pem", folder / "chave.pem"};
     // Only the second call takes a negative number of days.
     const std::string command =
         "cd '" + folder.string() +
@@ -43,6 +43,7 @@ TlsFront::TlsFront(const Certificate& certificate, int plainPort) {
         "python3", (SourceFolder() / "tests/Support/TlsFront.py").string(),
         certificate.certificate.string(), certificate.key.string(), std::to_string(plainPort)};
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
         arguments.push_back(word.data());
     }
