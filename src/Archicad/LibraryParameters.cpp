@@ -123,25 +123,19 @@ std::vector<LibraryParameter> MergeParameters(const std::vector<LibraryParameter
 void ReorderParameters(std::vector<LibraryParameter>& addPars,
                        const std::vector<ContractParameter>& contract) {
     const std::map<std::string, std::size_t> places = PlacesOf(contract);
-    std::vector<std::size_t> freed;
     std::vector<Ranked> ranked;
-    for (std::size_t i = 0; i < addPars.size(); ++i) {
-        if (addPars[i].type != ParameterType::Title) {
-            addPars[i].flags |= Host::ParameterChild;
+    for (LibraryParameter& parameter : addPars) {
+        if (parameter.type != ParameterType::Title) {
+            parameter.flags |= Host::ParameterChild;
         }
-        Ranked rank = RankOf(addPars[i], i, places, contract);
-        if (rank.kind != Kind::Own) {
-            rank.parameter = std::move(addPars[i]);
-            ranked.push_back(std::move(rank));
-            freed.push_back(i);
-        }
+        ranked.push_back(RankOf(parameter, ranked.size(), places, contract));
+        ranked.back().parameter = std::move(parameter);
     }
     std::stable_sort(ranked.begin(), ranked.end(), [](const Ranked& a, const Ranked& b) {
         return std::pair(a.kind, a.position) < std::pair(b.kind, b.position);
     });
-    for (std::size_t i = 0; i < freed.size(); ++i) {
-        addPars[freed[i]] = std::move(ranked[i].parameter);
-    }
+    std::transform(ranked.begin(), ranked.end(), addPars.begin(),
+                   [](Ranked& rank) { return std::move(rank.parameter); });
 }
 
 } // namespace Merivane::Archicad

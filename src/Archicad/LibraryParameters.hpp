@@ -33,8 +33,8 @@ MergeParameters(const std::vector<Host::LibraryParameter>& existing,
                 bool addSplit, bool dropMaterial);
 
 /// Brings the contract's visible parameters in front, in the contract's order, then the settings of
-/// surfaces and symbol, then what is hidden of the contract. All else stays in its place in the
-/// list. Whatever is no title becomes a child of the title above it.
+/// surfaces and symbol, then what is hidden of the contract; the part's own follow in the order
+/// that they had. Whatever is no title becomes a child of the title above it.
 void ReorderParameters(std::vector<Host::LibraryParameter>& addPars,
                        const std::vector<Photometry::ContractParameter>& contract);
 
