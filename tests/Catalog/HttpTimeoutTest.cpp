@@ -114,11 +114,12 @@ TEST_F(HttpTimeout, IsOneOfSilenceNotOfLength) {
         connection.ReadHead();
         connection.Send("HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\n");
         for (int i = 0; i < 4; ++i) {
-            std::this_thread::sleep_for(Short / 2);
+            std::this_thread::sleep_for(milliseconds(300));
             connection.Send("a");
         }
     });
-    EXPECT_EQ(HttpGetWith(server.Address("/"), Megabyte, {Short, Short, Short, Short}),
+    const milliseconds limit{800}; // less than the whole takes
+    EXPECT_EQ(HttpGetWith(server.Address("/"), Megabyte, {limit, limit, limit, limit}),
               (HttpResult{true, 200, "aaaa", ""}));
 }
 

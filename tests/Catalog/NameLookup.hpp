@@ -9,6 +9,6 @@ namespace Merivane::Tests {
 /// other name goes the system's way.
 inline const std::string UnknownName = "desconhecido.invalid"; ///< does not resolve
 inline const std::string SlowName = "lento.invalid"; ///< nor does this, after `SlowLookUp`
-inline constexpr std::chrono::milliseconds SlowLookUp{1500};
+inline constexpr std::chrono::milliseconds SlowLookUp{3000};
 
 } // namespace Merivane::Tests
