@@ -3,6 +3,8 @@
 
 #include "Catalog/HttpClient.hpp"
 
+#include <array>
+#include <cwchar>
 #include <utility>
 
 #include <windows.h>
@@ -136,6 +138,17 @@ bool Ask(HINTERNET request, HttpResult& result) {
     return true;
 }
 
+/// Length that the server announced [bytes]; 0 where it did not.
+std::uint64_t AnnouncedLength(HINTERNET request) {
+    std::array<wchar_t, 32> text{};
+    DWORD size = sizeof(text) - sizeof(wchar_t);
+    if (WinHttpQueryHeaders(request, WINHTTP_QUERY_CONTENT_LENGTH, WINHTTP_HEADER_NAME_BY_INDEX,
+                            text.data(), &size, WINHTTP_NO_HEADER_INDEX) == FALSE) {
+        return 0;
+    }
+    return std::wcstoull(text.data(), nullptr, 10);
+}
+
 /// Reads the body to its end. False, with `error` set, when it broke off or does not fit.
 bool ReadBody(HINTERNET request, std::uint64_t maxBytes, HttpResult& result) {
     std::string buffer(BufferSize, '\0');
@@ -182,8 +195,14 @@ HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes,
         SetLastFailure(result);
         return result;
     }
-    if (ReadBody(request.Get(), maxBytes, result)) {
-        JudgeStatus(result, url);
+    if (!ReadBody(request.Get(), maxBytes, result)) {
+        return result;
+    }
+    JudgeStatus(result, url);
+    // Not every version of the library tells a connection that closes early.
+    if (result.ok && result.body.size() < AnnouncedLength(request.Get())) {
+        result.ok = false;
+        SetFailure(result, NetworkFailure::ConnectionLost);
     }
     return result;
 }
