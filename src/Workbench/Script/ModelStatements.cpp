@@ -1,46 +1,15 @@
 #include "Workbench/Script/ModelStatements.hpp"
 
-#include <algorithm>
-#include <array>
-#include <cmath>
 #include <cstddef>
-#include <utility>
 
 #include "Workbench/Script/LowLevelShapes.hpp"
-#include "Workbench/Script/PipeShapes.hpp"
 #include "Workbench/Script/ShapeInput.hpp"
 #include "Workbench/Script/ShapeModel.hpp"
-#include "Workbench/Script/SolidShapes.hpp"
+#include "Workbench/Script/ShapeTable.hpp"
 
 namespace Merivane::Workbench {
 
 namespace {
-
-/// How a statement is carried out. `arguments` must be there at least; where none may follow, they
-/// are all.
-struct ShapeStatement {
-    std::string_view keyword;
-    std::size_t arguments;
-    bool more;
-    std::string (*sketch)(ShapeInput& input, ShapeSketch& sketch);
-};
-
-constexpr ShapeStatement Statements[] = {
-    {"ARMC", 6, false, SketchCylinderArm}, {"ARME", 5, false, SketchEllipsoidArm},
-    {"BLOCK", 3, false, SketchBlock},      {"BRICK", 3, false, SketchBlock},
-    {"CONE", 5, false, SketchCone},        {"CYLIND", 2, false, SketchCylinder},
-    {"ELBOW", 3, false, SketchElbow},      {"ELLIPS", 2, false, SketchEllipsoid},
-    {"SPHERE", 1, false, SketchSphere},
-};
-
-const ShapeStatement* FindStatement(std::string_view keyword) {
-    const auto* const found =
-        std::lower_bound(std::begin(Statements), std::end(Statements), keyword,
-                         [](const ShapeStatement& statement, std::string_view word) {
-                             return statement.keyword < word;
-                         });
-    return found != std::end(Statements) && found->keyword == keyword ? found : nullptr;
-}
 
 std::string SketchStatement(const ModelBuild& build, const ShapeStatement& statement,
                             const std::vector<ScriptValue>& arguments, ShapeSketch& sketch) {
@@ -67,7 +36,7 @@ std::string SketchStatement(const ModelBuild& build, const ShapeStatement& state
 } // namespace
 
 bool IsModelShape(std::string_view keyword) {
-    return FindStatement(keyword) != nullptr || IsLowLevelStatement(keyword);
+    return FindShapeStatement(keyword) != nullptr || IsLowLevelStatement(keyword);
 }
 
 std::string BuildModelShape(ModelBuild& build, std::string_view keyword,
@@ -75,7 +44,7 @@ std::string BuildModelShape(ModelBuild& build, std::string_view keyword,
     if (IsLowLevelStatement(keyword)) {
         return RunLowLevelStatement(build, keyword, arguments);
     }
-    const ShapeStatement* const statement = FindStatement(keyword);
+    const ShapeStatement* const statement = FindShapeStatement(keyword);
     if (statement == nullptr) {
         return "não é um corpo que se conheça";
     }

@@ -66,8 +66,8 @@ struct PlanPolygon {
 struct PlanText {
     Host::Coordinate position;
     std::string text;      ///< UTF-8; lines parted by LF
-    double angle = 0.0;    ///< [degrees]
-    bool mirrored = false; ///< read from behind
+    double angle = 0.0;    ///< of its base line [degrees]
+    bool mirrored = false; ///< read from behind: its upper side lies clockwise of the base line
     std::string font;
     double size = 5.0;       ///< height on paper [mm]
     std::int32_t anchor = 1; ///< 1 left top to 9 right bottom, row after row
@@ -91,9 +91,9 @@ struct PlanHotspot {
 struct PlanPicture {
     std::string picture;
     Host::Coordinate position;
-    double width = 0.0; ///< [m]
-    double height = 0.0;
-    double angle = 0.0; ///< [degrees]
+    double width = 0.0;  ///< [m]
+    double height = 0.0; ///< below 0 where it is mirrored
+    double angle = 0.0;  ///< of its width [degrees]
 
     bool operator==(const PlanPicture&) const = default;
 };
@@ -105,17 +105,21 @@ struct PlanProjection {
     std::int32_t method = 1;
     Host::Coordinate position;
     double scaleX = 1.0;
-    double scaleY = 1.0;
+    double scaleY = 1.0;   ///< below 0 where the script's frame is mirrored
     double rotation = 0.0; ///< of the script's frame [degrees]
     PlanLook look;
 
     bool operator==(const PlanProjection&) const = default;
 };
 
-/// The part's binary symbol: fragment number, 0 = all.
+/// The part's binary symbol: fragment number, 0 = all, in the script's frame.
 struct PlanFragment {
     std::int32_t number = 0;
     bool useCurrent = false;
+    Host::Coordinate position;
+    double scaleX = 1.0;
+    double scaleY = 1.0;   ///< below 0 where it is mirrored
+    double rotation = 0.0; ///< [degrees]
 
     bool operator==(const PlanFragment&) const = default;
 };

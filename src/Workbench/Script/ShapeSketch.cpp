@@ -120,15 +120,22 @@ Coordinate3D DoubledNormal(const FacedBody& body, const std::vector<std::int32_t
 }
 
 void OrientOutwards(ShapeSketch& sketch) {
+    if (sketch.oriented) {
+        return;
+    }
+    constexpr double rounding = 1e-9;
     double volume = 0.0;
+    double spanned = 0.0;
     for (const ContouredFace& face : sketch.body.faces) {
         for (const std::vector<std::int32_t>& contour : face.contours) {
             const Coordinate3D way =
                 Difference(PlaceOf(sketch.body, contour[0]), sketch.body.vertices.front());
-            volume += Dot(DoubledNormal(sketch.body, contour), way);
+            const double part = Dot(DoubledNormal(sketch.body, contour), way);
+            volume += part;
+            spanned += std::abs(part);
         }
     }
-    if (volume < 0.0) {
+    if (volume < -rounding * spanned) {
         TurnFaces(sketch.body);
     }
 }

@@ -21,6 +21,7 @@ struct ShapeSketch {
     FacedBody body;
     std::vector<bool> present; ///< for each face, whether the statement keeps it
     std::vector<std::array<Host::Coordinate3D, 2>> wires;
+    bool oriented = false;      ///< the sides are told already, as of a plane shape
     std::size_t faceRoom = 0;   ///< how many faces and wires the model may still take
     std::size_t vertexRoom = 0; ///< and how many vertices
 };
@@ -38,7 +39,7 @@ void AddFace(ShapeSketch& sketch, std::vector<std::vector<std::int32_t>> contour
              std::int32_t surface, bool present = true);
 
 /// Turns the faces around when they look inside, which the volume tells. A sketch that encloses
-/// nothing stays as it is.
+/// nothing and one that is oriented stay as they are.
 void OrientOutwards(ShapeSketch& sketch);
 
 /// Takes out the faces that are not present.
