@@ -6,7 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 packages=(
     clang clang-format clang-tidy libclang-rt-14-dev g++ cmake ninja-build pkg-config ccache
-    libcairo2-dev libpango1.0-dev libcli11-dev libgtest-dev libbenchmark-dev
+    libcairo2-dev libpango1.0-dev libpugixml-dev libcli11-dev libgtest-dev libbenchmark-dev
     libcurl4-openssl-dev nlohmann-json3-dev libdouble-conversion-dev
     fonts-dejavu-core locales poppler-utils openssl python3 python3-pip git ca-certificates)
 

@@ -13,6 +13,7 @@
 #include "Text/FileBytes.hpp"
 #include "Text/Utf8.hpp"
 #include "Workbench/Project/ProjectFile.hpp"
+#include "Workbench/ProjectSaving.hpp"
 #include "Workbench/Session.hpp"
 
 namespace Merivane::Program {
@@ -103,7 +104,7 @@ bool OpenProjectFile(const std::string& file, std::string& error) {
 }
 
 bool SaveProjectFile(const std::string& file, bool silent, std::string& error) {
-    if (!Workbench::SaveProject(Text::Widen(file), CurrentSession().project, error)) {
+    if (!Workbench::SaveOpenProject(Text::Widen(file), error)) {
         return false;
     }
     if (!silent) {

@@ -91,6 +91,27 @@ std::string ShownText(std::string_view text) {
     return std::string(Trim(shown));
 }
 
+std::string ShownLines(std::string_view text) {
+    std::string lines;
+    lines.reserve(text.size());
+    while (!text.empty()) {
+        const Character character = FirstCharacter(text);
+        if (text.starts_with("\r\n")) {
+            text.remove_prefix(1); // the LF follows
+            continue;
+        }
+        if (character.kind == CharacterKind::Shown || text[0] == '\t' || text[0] == '\n') {
+            lines += text.substr(0, character.length);
+        } else if (character.kind == CharacterKind::Control) {
+            lines += text[0] == '\r' ? '\n' : ' ';
+        } else {
+            lines += "\xEF\xBF\xBD";
+        }
+        text.remove_prefix(character.length);
+    }
+    return lines;
+}
+
 std::string QuotedText(std::string_view text) {
     constexpr std::size_t longest = 60;
     const std::string shown = ShownText(text);

@@ -14,6 +14,10 @@ bool IsPlainText(std::string_view text);
 /// every other byte that can't be shown becomes U+FFFD. The ends are trimmed.
 std::string ShownText(std::string_view text);
 
+/// `text` as lines that an XML document can hold: every line end becomes LF, tabs stay, other
+/// control characters become blanks, every byte that can't be shown becomes U+FFFD. The ends stay.
+std::string ShownLines(std::string_view text);
+
 /// `ShownText` in quotation marks and cut to about 60 bytes, for messages.
 std::string QuotedText(std::string_view text);
 

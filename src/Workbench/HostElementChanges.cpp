@@ -41,7 +41,23 @@ ErrorCode TakeObjectParameters(const Session& session, const ElementMemo& memo,
         return NoError;
     }
     const auto& part = session.project.parts[static_cast<std::size_t>(data->libraryIndex) - 1];
-    return Workbench::TakeParameters(part.parameters, memo.parameters, element.memo.parameters);
+    if (part.source != Workbench::PartSource::Missing || !part.parameters.empty()) {
+        return Workbench::TakeParameters(part.parameters, memo.parameters, element.memo.parameters);
+    }
+    // Nothing is known of the part: the element keeps whatever values are good ones.
+    Workbench::Parameters none;
+    const ErrorCode code = Workbench::TakeParameters(memo.parameters, memo.parameters, none);
+    if (code == NoError) {
+        element.memo.parameters = memo.parameters;
+    }
+    return code;
+}
+
+// A part whose file has gone can't be placed; what is placed of it can be changed.
+bool IsOfMissingPart(const Session& session, const Element& element) {
+    const auto* const data = std::get_if<ObjectData>(&element.data);
+    return data && session.project.parts[static_cast<std::size_t>(data->libraryIndex) - 1].source ==
+                       Workbench::PartSource::Missing;
 }
 
 bool IsOnPlan(const ProjectElement& element) {
@@ -71,6 +87,9 @@ ErrorCode MakeElement(const Session& session, const Element& wanted, const Eleme
     StoreLibraryIndex(made.element);
     if (const ErrorCode code = Workbench::CheckElementData(session.project, made.element)) {
         return code;
+    }
+    if (IsOfMissingPart(session, made.element)) {
+        return MissingDefinition;
     }
     if (const ErrorCode code = Workbench::CheckMemo(session.project, made.element, memo)) {
         return code;

@@ -126,7 +126,12 @@ ErrorCode GetMemo(const Guid& guid, MemoParts parts, ElementMemo& memo) {
     const Workbench::ProjectPart* const part = PartOf(session, *found);
     Workbench::CopyMemo(found->memo, parts, memo);
     if (part && Workbench::Holds(parts, MemoParts::Parameters)) {
-        memo.parameters = Workbench::MergeParameters(part->parameters, found->memo.parameters);
+        // Of a part that is missing since before the project was opened only these are known.
+        const bool isUnknown =
+            part->source == Workbench::PartSource::Missing && part->parameters.empty();
+        memo.parameters =
+            isUnknown ? found->memo.parameters
+                      : Workbench::MergeParameters(part->parameters, found->memo.parameters);
     }
     return NoError;
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "Workbench/PartLibraries.hpp"
+#include "Workbench/Parts/BuiltInSubtypes.hpp"
 #include "Workbench/Session.hpp"
 
 namespace Merivane::Host {
@@ -10,11 +12,21 @@ namespace Merivane::Host {
 namespace {
 
 using Workbench::CurrentSession;
+using Workbench::PartSource;
 using Workbench::ProjectPart;
 
 const ProjectPart* FindPart(std::int32_t index) {
     const std::int32_t place = Workbench::LibraryPlaceOf(index);
     return place < 0 ? nullptr : &CurrentSession().project.parts[static_cast<std::size_t>(place)];
+}
+
+/// What a part derives from; of one without a file by the tool that places it.
+Guid ParentOf(const ProjectPart& part) {
+    if (part.document) {
+        return part.document->ancestry.empty() ? Guid() : part.document->ancestry.back();
+    }
+    return Workbench::Parts::BuiltInSubtype(part.isLamp ? Workbench::Parts::LightSubtype
+                                                        : Workbench::Parts::ModelElementSubtype);
 }
 
 LibraryPart DescribePart(std::int32_t index, const ProjectPart& found) {
@@ -24,10 +36,31 @@ LibraryPart DescribePart(std::int32_t index, const ProjectPart& found) {
     part.mainGuid = found.mainGuid;
     part.isLamp = found.isLamp;
     part.type = found.isLamp ? PartType::Lamp : PartType::Object;
+    part.path = found.path;
+    part.parentId = Workbench::Parts::UniqueId(ParentOf(found));
+    if (found.document) {
+        part.type = found.document->type;
+        part.revision = found.document->revision;
+        part.isPlaceable = found.document->isPlaceable;
+    }
     return part;
 }
 
 } // namespace
+
+ErrorCode ListLibraryParts(std::vector<std::int32_t>& indices) {
+    if (const ErrorCode code = Workbench::CountProjectCall("ListLibraryParts")) {
+        return code;
+    }
+    indices.clear();
+    const auto& parts = CurrentSession().project.parts;
+    for (std::size_t place = 0; place < parts.size(); ++place) {
+        if (parts[place].source != PartSource::Missing) {
+            indices.push_back(Workbench::LibraryIndexOf(place));
+        }
+    }
+    return NoError;
+}
 
 ErrorCode GetLibraryPart(std::int32_t index, LibraryPart& part) {
     if (const ErrorCode code = Workbench::CountProjectCall("GetLibraryPart")) {
@@ -36,6 +69,12 @@ ErrorCode GetLibraryPart(std::int32_t index, LibraryPart& part) {
     const ProjectPart* const found = FindPart(index);
     if (!found) {
         return BadIndex;
+    }
+    if (found->source == PartSource::Missing) {
+        part = {};
+        part.index = index;
+        part.name = found->name;
+        return MissingDefinition;
     }
     part = DescribePart(index, *found);
     return NoError;
@@ -46,8 +85,9 @@ ErrorCode FindLibraryPart(std::string_view name, LibraryPart& part) {
         return code;
     }
     const auto& parts = CurrentSession().project.parts;
-    const auto found = std::find_if(parts.begin(), parts.end(),
-                                    [name](const ProjectPart& p) { return p.name == name; });
+    const auto found = std::find_if(parts.begin(), parts.end(), [name](const ProjectPart& p) {
+        return p.name == name && p.source != PartSource::Missing;
+    });
     if (found == parts.end()) {
         return BadName;
     }
@@ -65,9 +105,20 @@ ErrorCode GetPartParameters(std::int32_t index, double& sizeA, double& sizeB,
     if (!found) {
         return BadIndex;
     }
+    if (found->source == PartSource::Missing) {
+        return MissingDefinition;
+    }
     sizeA = found->sizeA;
     sizeB = found->sizeB;
     parameters = found->parameters;
+    return NoError;
+}
+
+ErrorCode GetBuiltInPart(std::int32_t number, Guid& guid) {
+    if (const ErrorCode code = Workbench::CountCall("GetBuiltInPart")) {
+        return code;
+    }
+    guid = Workbench::Parts::BuiltInSubtype(number);
     return NoError;
 }
 

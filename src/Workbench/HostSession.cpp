@@ -67,6 +67,15 @@ ErrorCode GetTemporaryFolder(std::wstring& path) {
                     Workbench::SystemTemporaryFolder, path);
 }
 
+ErrorCode GetSpecialFolder(SpecialFolder folder, std::wstring& path) {
+    if (folder != SpecialFolder::UserDocuments) {
+        const ErrorCode code = Workbench::CountCall("GetSpecialFolder");
+        return code != NoError ? code : BadParameters;
+    }
+    return GivePath("GetSpecialFolder", CurrentSession().options.documentsFolder,
+                    Workbench::UserDocumentsFolder, path);
+}
+
 void WriteReport(std::string_view format, bool withDialog) {
     Workbench::Session& session = CurrentSession();
     session.reportLines.push_back({FormatWithoutArguments(format), withDialog});

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "Workbench/PartLibraries.hpp"
 #include "Workbench/SessionResources.hpp"
 
 namespace Merivane::Workbench {
@@ -26,6 +27,8 @@ void LoadProject(Project project, std::wstring path) {
     session.undo = {};
     session.database = session.project.window; // the current one follows the front window
     session.visitedDatabases = {session.project.window.database};
+    session.partInMaking.reset();
+    ReadLibraries();
 }
 
 std::vector<std::string> NamesOf(const std::vector<UndoStep>& steps) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -12,6 +13,7 @@
 #include "Host/Stories.hpp"
 #include "Host/Types.hpp"
 #include "Workbench/Interface/UserInterface.hpp"
+#include "Workbench/PartInMaking.hpp"
 #include "Workbench/Project/ElementIndex.hpp"
 #include "Workbench/Project/GuidSource.hpp"
 #include "Workbench/Project/Project.hpp"
@@ -53,6 +55,7 @@ struct ProjectEventCatcher {
 struct SessionOptions {
     std::wstring ownLocation = {};     ///< of the add-on; empty = the running program's file
     std::wstring temporaryFolder = {}; ///< empty = the system's
+    std::wstring documentsFolder = {}; ///< empty = the user's
     std::wstring preferencesFile = {}; ///< empty = the preferences live as long as the session
     std::function<void(const ReportLine&)> onReport = {}; ///< told of each report line, if given
     std::function<void(const ProcessWindow&)> onProgress = {}; ///< told of each change, if given
@@ -95,6 +98,7 @@ struct Session {
     std::set<Host::Guid> visitedDatabases; ///< those whose window was in front in this session
     GuidSource guids;
     std::int32_t libraryGeneration = 0; ///< how often the list of libraries changed
+    std::optional<PartInMaking> partInMaking;
 
     std::vector<ProjectEventCatcher> eventCatchers;
     std::vector<ProcessWindow> processWindows; ///< latest last

@@ -10,6 +10,12 @@ namespace {
 
 constexpr std::size_t LongestPath = 32768; // of the system, its NUL included
 
+std::wstring Variable(const wchar_t* name) {
+    std::wstring value(LongestPath, L'\0');
+    value.resize(GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size())));
+    return value.size() < LongestPath ? value : std::wstring();
+}
+
 } // namespace
 
 std::wstring ExecutablePath() {
@@ -28,12 +34,14 @@ std::wstring SystemTemporaryFolder() {
     return path;
 }
 
+std::wstring UserDocumentsFolder() {
+    const std::wstring folder = Variable(L"USERPROFILE");
+    return folder.empty() ? folder : folder + L"\\Documents";
+}
+
 std::wstring UserPreferencesFile() {
-    std::wstring folder(LongestPath, L'\0');
-    folder.resize(
-        GetEnvironmentVariableW(L"APPDATA", folder.data(), static_cast<DWORD>(folder.size())));
-    return folder.empty() || folder.size() >= LongestPath ? std::wstring()
-                                                          : folder + L"\\vantoro\\preferencias";
+    const std::wstring folder = Variable(L"APPDATA");
+    return folder.empty() ? folder : folder + L"\\vantoro\\preferencias";
 }
 
 } // namespace Merivane::Workbench

@@ -8,6 +8,7 @@
 #include "Host/GuidText.hpp"
 #include "Text/ShownText.hpp"
 #include "Text/Utf8.hpp"
+#include "Workbench/Parts/PartDocument.hpp"
 #include "Workbench/Project/TextLimits.hpp"
 
 namespace Merivane::Workbench {
@@ -32,12 +33,6 @@ bool Fits(const std::string& text, TextRule rule) {
            (rule.mostBytes == 0 || text.size() <= rule.mostBytes) &&
            (rule.mostUtf16 == 0 || CountUtf16(text) <= rule.mostUtf16) && Text::IsUtf8(text) &&
            text.find('\0') == std::string::npos;
-}
-
-bool IsParameterName(const std::string& text) {
-    constexpr std::size_t longest = 31; // the host keeps 32 bytes with the NUL
-    return !text.empty() && text.size() <= longest &&
-           std::all_of(text.begin(), text.end(), [](char c) { return c > ' ' && c < '\x7F'; });
 }
 
 template <typename Integer> FieldReader IntoInteger(Integer& target, NumberRange range) {
@@ -117,7 +112,7 @@ FieldReader Into(std::string& target, TextRule rule) {
 
 FieldReader Into(std::string& target, ParameterName /*rule*/) {
     return [&target](const Place& place, std::string& error) {
-        if (place.value->kind != JsonKind::String || !IsParameterName(place.value->text)) {
+        if (place.value->kind != JsonKind::String || !Parts::IsParameterName(place.value->text)) {
             return RefuseValue(place, "um nome ASCII sem espaços, de no máximo 31 caracteres",
                                error);
         }

@@ -1,9 +1,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
+#include <set>
 #include <utility>
+#include <variant>
 
+#include "Text/Ascii.hpp"
 #include "Text/ShownText.hpp"
+#include "Workbench/Parts/PartDocument.hpp"
 #include "Workbench/Project/FileGroups.hpp"
 #include "Workbench/Project/ParameterRules.hpp"
 
@@ -147,20 +152,78 @@ void PartFields(auto& fields, Is<ProjectPart> auto& part) {
     fields.List("corpos", part.bodies, [](auto& keys, auto& body) { BodyFields(keys, body); });
 }
 
-/// Takes the names of parts, which elements refer to; refuses one that stands above already.
-bool NameParts(const Place& list, const std::vector<ProjectPart>& parts, AttributeNames& names,
-               std::string& error) {
-    for (std::size_t i = 0; i < parts.size(); ++i) {
+/// Takes the names of the parts of a list, which elements refer to; `parts[first]` is its first.
+/// Refuses one that stands above already.
+bool NameParts(const Place& list, const std::vector<ProjectPart>& parts, std::size_t first,
+               AttributeNames& names, std::string& error) {
+    for (std::size_t i = first; i < parts.size(); ++i) {
         const auto index = static_cast<std::int32_t>(i + 1);
         if (!names.numbers.emplace(parts[i].name, index).second) {
-            const Place item{&list.value->items[i], &list, {}, i};
+            const Place item{&list.value->items[i - first], &list, {}, i - first};
             return Refuse(Place{item.value->Find("nome"), &item, "nome", 0},
                           "o nome " + Text::QuotedText(parts[i].name) +
-                              " já é de outro item da lista",
+                              (first == 0 ? " já é de outro item da lista" : " já é de outra peça"),
                           error);
         }
     }
     return true;
+}
+
+/// What the file tells of a part that stands in a library: who it is.
+void ReferenceFields(auto& fields, Is<ProjectPart> auto& part) {
+    fields.Must("nome", part.name, NameRule);
+    fields.Must("guid", part.mainGuid);
+    fields.May("luminaria", part.isLamp, false);
+}
+
+/// The parts of libraries that elements refer to. They are missing until a library gives them.
+bool ReadReferences(const Place& place, FileNames& names, Project& project, std::string& error) {
+    const auto readPart = [&names](const Place& item, ProjectPart& part, std::string& text) {
+        FieldsToRead keys(names);
+        ReferenceFields(keys, part);
+        part.source = PartSource::Missing;
+        return keys.Read(item, text);
+    };
+    std::vector<ProjectPart> references;
+    if (!Catalog::IntoList(references, {}, readPart)(place, error)) {
+        return false;
+    }
+    const std::size_t first = project.parts.size();
+    for (ProjectPart& part : references) {
+        project.parts.push_back(std::move(part));
+        names.parameterPlaces.emplace_back();
+    }
+    return NameParts(place, project.parts, first, names.parts, error);
+}
+
+/// The parts of libraries that elements of the project refer to, in their order.
+std::vector<ProjectPart> ReferredParts(const Project& project) {
+    std::vector<bool> isReferred(project.parts.size(), false);
+    for (const ProjectElement& element : project.elements) {
+        const auto* const data = std::get_if<Host::ObjectData>(&element.element.data);
+        const auto place = data ? static_cast<std::size_t>(data->libraryIndex) - 1 : 0;
+        if (data && place < isReferred.size()) {
+            isReferred[place] = true;
+        }
+    }
+    std::vector<ProjectPart> referred;
+    for (std::size_t place = 0; place < isReferred.size(); ++place) {
+        const ProjectPart& part = project.parts[place];
+        if (isReferred[place] && part.source != PartSource::Project) {
+            ProjectPart& reference = referred.emplace_back();
+            reference.name = part.name;
+            reference.mainGuid = part.mainGuid;
+            reference.isLamp = part.isLamp;
+        }
+    }
+    return referred;
+}
+
+std::vector<ProjectPart> OwnParts(const Project& project) {
+    std::vector<ProjectPart> own;
+    std::copy_if(project.parts.begin(), project.parts.end(), std::back_inserter(own),
+                 [](const ProjectPart& part) { return part.source == PartSource::Project; });
+    return own;
 }
 
 JsonValue StoredValue(const FieldsToWrite& fields, const LibraryParameter& parameter) {
@@ -182,6 +245,44 @@ bool ReadOwnValue(const Place& place, FileNames& names, LibraryParameter& parame
     }
     return parameter.type == ParameterType::String ? Into(parameter.text, ShortText)(place, error)
                                                    : Into(parameter.number)(place, error);
+}
+
+/// A value of a part that is not there: its form tells what it is.
+LibraryParameter LooseParameter(const Catalog::JsonMember& member) {
+    LibraryParameter parameter;
+    parameter.name = member.key;
+    const JsonValue* value = &member.value;
+    parameter.isArray = value->kind == JsonKind::Object;
+    if (const JsonValue* const values = parameter.isArray ? value->Find("valores") : nullptr;
+        values && !values->items.empty()) {
+        value = &values->items[0];
+    }
+    parameter.type = value->kind == JsonKind::String ? ParameterType::String : ParameterType::Real;
+    return parameter;
+}
+
+bool ReadLooseParameters(const Place& place, FileNames& names,
+                         std::vector<LibraryParameter>& parameters, std::string& error) {
+    if (place.value->kind != JsonKind::Object) {
+        return RefuseValue(place, "um objeto", error);
+    }
+    std::set<std::string> taken;
+    for (const Catalog::JsonMember& member : place.value->members) {
+        const bool isName = Parts::IsParameterName(member.key);
+        if (!isName || !taken.insert(Text::ToLower(member.key)).second) {
+            return Refuse(place,
+                          (isName ? "aparece duas vezes o parâmetro "
+                                  : "nenhuma peça pode ter o parâmetro ") +
+                              Text::QuotedText(member.key),
+                          error);
+        }
+        parameters.push_back(LooseParameter(member));
+        if (!ReadOwnValue(Place{&member.value, &place, member.key, 0}, names, parameters.back(),
+                          error)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool ReadOwnParameters(const Place& place, FileNames& names, const ProjectPart& part,
@@ -220,13 +321,19 @@ void LibraryPartFields(FieldsToRead& fields, Project& project) {
             return keys.Read(item, text);
         };
         return Catalog::IntoList(project.parts, {}, readPart)(place, error) &&
-               NameParts(place, project.parts, names.parts, error);
+               NameParts(place, project.parts, 0, names.parts, error);
     };
     fields.Custom("pecas", false, read);
+    fields.Custom("pecasDeBiblioteca", false,
+                  [&names = fields.names, &project](const Place& place, std::string& error) {
+                      return ReadReferences(place, names, project, error);
+                  });
 }
 
 void LibraryPartFields(FieldsToWrite& fields, const Project& project) {
-    fields.List("pecas", project.parts, [](auto& keys, auto& part) { PartFields(keys, part); });
+    fields.List("pecas", OwnParts(project), [](auto& keys, auto& part) { PartFields(keys, part); });
+    fields.List("pecasDeBiblioteca", ReferredParts(project),
+                [](auto& keys, auto& part) { ReferenceFields(keys, part); });
 }
 
 void OwnParameterFields(FieldsToRead& fields, const Project& project,
@@ -235,6 +342,9 @@ void OwnParameterFields(FieldsToRead& fields, const Project& project,
     const auto read = [&names = fields.names, &project, &libraryIndex,
                        &parameters](const Place& place, std::string& error) {
         const auto part = static_cast<std::size_t>(libraryIndex) - 1;
+        if (project.parts[part].source == PartSource::Missing) {
+            return ReadLooseParameters(place, names, parameters, error);
+        }
         return ReadOwnParameters(place, names, project.parts[part], names.parameterPlaces[part],
                                  parameters, error);
     };
@@ -251,6 +361,10 @@ void OwnParameterFields(FieldsToWrite& fields, const Project& project,
     const std::vector<LibraryParameter>& ofPart = project.parts[part].parameters;
     JsonValue own = JsonValue::MakeObject();
     for (const LibraryParameter& parameter : parameters) {
+        if (project.parts[part].source == PartSource::Missing && ofPart.empty()) {
+            own.Set(parameter.name, StoredValue(fields, parameter));
+            continue;
+        }
         const std::size_t at = PlaceOfParameter(fields.parameterPlaces[part], parameter.name);
         if (at < ofPart.size() && IsSameKind(parameter, ofPart[at]) &&
             !IsSameValue(parameter, ofPart[at])) {

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -11,6 +13,7 @@
 #include "Host/Library.hpp"
 #include "Host/Storage.hpp"
 #include "Host/Stories.hpp"
+#include "Workbench/Parts/PartDocument.hpp"
 #include "Workbench/Project/ModelGeometry.hpp"
 
 /// The open project of the embedded host, as plain records. What is allowed to happen to it is
@@ -38,6 +41,13 @@ struct ProjectElement {
     bool operator==(const ProjectElement&) const = default;
 };
 
+/// Where a library part is kept.
+enum class PartSource {
+    Project, ///< in the project's own file
+    Library, ///< in a file of a library folder
+    Missing  ///< in a library's file that is not there any more, or can't be read
+};
+
 /// A library part. Stands once; placed elements keep only what differs.
 struct ProjectPart {
     std::string name; ///< UTF-8
@@ -48,6 +58,9 @@ struct ProjectPart {
     std::vector<Host::LibraryParameter> parameters;
     std::vector<Host::ModelSurface> surfaces; ///< of its own, by name
     std::vector<GivenBody> bodies;            ///< for sizes A and B as above
+    PartSource source = PartSource::Project;
+    std::wstring path;                           ///< full path of a library's file
+    std::optional<Parts::PartDocument> document; ///< what that file holds
 
     bool operator==(const ProjectPart&) const = default;
 };
@@ -97,6 +110,23 @@ struct ProjectLibrary {
     bool operator==(const ProjectLibrary&) const = default;
 };
 
+struct PartRuns;
+
+/// What running the parts' scripts gave: kept beside a project, made anew at any time, so never
+/// copied with it and never compared.
+struct KeptRuns {
+    mutable std::shared_ptr<PartRuns> kept;
+
+    KeptRuns() = default;
+    KeptRuns(const KeptRuns& /*other*/) {}
+    KeptRuns& operator=(const KeptRuns& /*other*/) {
+        kept.reset();
+        return *this;
+    }
+    ~KeptRuns() = default;
+    bool operator==(const KeptRuns& /*other*/) const { return true; }
+};
+
 struct Project {
     std::string name;
     std::vector<Host::Story> stories;
@@ -116,6 +146,7 @@ struct Project {
     std::int16_t activeFloor = 0;
     double planScale = 100.0;
     std::uint64_t lastStamp = 0; ///< of the latest change of an element
+    KeptRuns runs;
 
     bool operator==(const Project&) const = default;
 };
