@@ -16,8 +16,6 @@ namespace Merivane::Catalog {
 
 namespace {
 
-constexpr const char* NotListed = "o catalogo nao lista este arquivo";
-
 FetchResult Failed(std::string error) {
     return {false, {}, std::move(error)};
 }
@@ -37,7 +35,7 @@ bool LocateInFolder(const std::string& folder, std::string_view relativePath, st
     const bool exists = std::filesystem::exists(place, code);
     if (!IsInnerPath(relativePath) ||
         (exists && !LeadsInside(Text::NativePath(Text::Widen(folder)), place))) {
-        error = "o catalogo lista um caminho que sai da pasta dele: " + std::string(relativePath);
+        error = PathLeavesCatalog(relativePath);
         return false;
     }
     if (!std::filesystem::is_regular_file(place, code)) {
@@ -76,7 +74,7 @@ FetchResult FetchCatalogFile(const std::string& address, std::string_view relati
 FetchResult FetchVerifiedFile(const std::string& address, const CatalogFile& file,
                               const HttpFetch& http) {
     if (file.path.empty()) {
-        return Failed(NotListed);
+        return Failed(FileNotListed());
     }
     const std::wstring cache = CatalogCacheFolder(address);
     FetchResult cached{true, {}, {}};
@@ -109,6 +107,14 @@ bool DigestCatalogFile(const std::string& address, std::string_view relativePath
     }
     error = NotFound(ResolveInCatalog(address, relativePath));
     return DigestFile(file, digest);
+}
+
+std::string FileNotListed() {
+    return "o catalogo nao lista este arquivo";
+}
+
+std::string PathLeavesCatalog(std::string_view path) {
+    return "o catalogo lista um caminho que sai da pasta dele: " + std::string(path);
 }
 
 std::string MismatchOf(const CatalogFile& file, const FileDigest& fetched) {

@@ -42,6 +42,11 @@ FetchResult FetchVerifiedFile(const std::string& address, const CatalogFile& fil
 bool DigestCatalogFile(const std::string& address, std::string_view relativePath,
                        FileDigest& digest, std::string& error, const HttpFetch& http = HttpGet);
 
+/// The sentence on a file that the index has no path for, and on a path that leads out of the
+/// catalogue.
+std::string FileNotListed();
+std::string PathLeavesCatalog(std::string_view path);
+
 /// How what was fetched differs from what the index lists, as one sentence; empty when it does not.
 /// A size or a digest that is not listed is not compared; letter case counts.
 std::string MismatchOf(const CatalogFile& file, const FileDigest& fetched);
