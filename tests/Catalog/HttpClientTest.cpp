@@ -1,4 +1,5 @@
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -299,6 +300,25 @@ TEST_F(HttpClient, GoesPastTheProxyWhereTheEnvironmentSaysSo) {
 TEST_F(HttpClient, TellsAProxyThatIsNotThere) {
     const Tests::Variable variable("http_proxy",
                                    "http://127.0.0.1:" + std::to_string(Tests::ClosedPort()));
+    EXPECT_EQ(Get("http://catalogo.invalid/"),
+              (HttpResult{false, 0, "", "nao foi possivel conectar ao servidor"}));
+}
+
+TEST_F(HttpClient, TellsAProxyWhoseNameDoesNotResolve) {
+    const Tests::Variable variable("http_proxy", "http://" + Tests::UnknownName + ":3128");
+    EXPECT_EQ(Get("http://127.0.0.1/"),
+              (HttpResult{false, 0, "",
+                          "endereco nao encontrado (sem internet, ou o nome do servidor esta "
+                          "errado)"}));
+}
+
+TEST_F(HttpClient, TellsAProxyThatSpeaksAnotherLanguage) {
+    const LoopbackServer proxy([](ServerConnection& connection) {
+        connection.Send("220 servidor de correio\r\n");
+        connection.StaySilent();
+    });
+    const Tests::Variable variable("http_proxy",
+                                   "socks5h://127.0.0.1:" + std::to_string(proxy.Port()));
     EXPECT_EQ(Get("http://catalogo.invalid/"),
               (HttpResult{false, 0, "", "nao foi possivel conectar ao servidor"}));
 }
