@@ -23,9 +23,21 @@ std::wstring PartFile(const std::wstring& folder, const std::string& name) {
     return PathIn(folder, Text::Widen(name + PartExtension));
 }
 
-bool Exists(const std::wstring& path) {
+/// Of two parts of one name in a project's libraries the host uses one without telling which.
+bool IsTaken(const std::wstring& folder, const std::string& name) {
     std::error_code failure;
-    return std::filesystem::exists(Text::NativePath(path), failure);
+    Host::LibraryPart other;
+    return std::filesystem::exists(Text::NativePath(PartFile(folder, name)), failure) ||
+           Host::FindLibraryPart(name, other) == Host::NoError;
+}
+
+/// The host has taken a half-made part among its own when it was saved.
+void ForgetRemovedParts() {
+    std::vector<Host::Library> libraries;
+    std::int32_t embedded = -1;
+    if (Host::GetLibraries(libraries, embedded) == Host::NoError) {
+        Host::SetLibraries(libraries);
+    }
 }
 
 } // namespace
@@ -45,7 +57,7 @@ ErrorCode WriteSection(const Host::PartSection& section, std::string_view bytes)
 
 std::string FreePartName(const std::wstring& folder, std::string_view name) {
     std::string tried(name);
-    for (int n = 2; n <= LastNameTried && Exists(PartFile(folder, tried)); ++n) {
+    for (int n = 2; n <= LastNameTried && IsTaken(folder, tried); ++n) {
         tried = std::string(name) + "_" + std::to_string(n);
     }
     return tried;
@@ -79,6 +91,7 @@ PartInMaking::~PartInMaking() {
         Host::LibraryPart halfMade;
         Host::SavePart(halfMade);
         Text::RemoveFile(file);
+        ForgetRemovedParts();
     }
 }
 

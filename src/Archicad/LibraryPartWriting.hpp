@@ -33,8 +33,8 @@ Host::ErrorCode ReadScriptSection(std::int32_t index, std::string_view type, std
 /// section is ended on every path.
 Host::ErrorCode WriteSection(const Host::PartSection& section, std::string_view bytes);
 
-/// `name`, or with "_2", "_3" up to "_1000" behind it the first of which `folder` has no part's
-/// file; the last of these where it has them all.
+/// `name`, or with "_2", "_3" up to "_1000" behind it, the first that neither a part's file in
+/// `folder` nor a part of the project has; the last of these where all are taken.
 std::string FreePartName(const std::wstring& folder, std::string_view name);
 
 /// The identifier of one of the host's own subtypes, as a part names what it derives from.
@@ -48,7 +48,8 @@ Host::ErrorCode WriteParameterSection(const Host::NewLibraryPart& part, double s
                                       Host::ErrorCode& listCode);
 
 /// A part that is being made: the host wants it saved whatever happens after it was begun. One that
-/// is not finished when this goes is saved and its file removed, so that no half-made part stays.
+/// is not finished when this goes is saved, its file removed and the libraries read anew, so that
+/// no half-made part stays; indices of parts given out before are void then.
 class PartInMaking {
 public:
     PartInMaking() = default;
