@@ -11,6 +11,7 @@
 
 #include "Program/ArgumentValues.hpp"
 #include "Program/CalculateForm.hpp"
+#include "Program/CatalogForm.hpp"
 #include "Program/CommandChoice.hpp"
 #include "Program/Version.hpp"
 
@@ -27,6 +28,8 @@ struct RawLine {
     RunArguments run;
     DrawArguments draw;
     CalculateArguments calculate;
+    CheckCatalogArguments checkCatalog;
+    ListCatalogArguments listCatalog;
     std::string scale;
     std::string drawingScale;
     std::string floor;
@@ -224,6 +227,33 @@ CLI::App* AddCalculate(CLI::App& app, RawLine& line) {
     return command;
 }
 
+constexpr const char* CommandGroup = "Comandos";
+
+CLI::App* AddCatalog(CLI::App& app) {
+    CLI::App* command =
+        app.add_subcommand("catalogo", "Verifica ou lista um catálogo de luminárias");
+    Prepare(*command);
+    command->require_subcommand(1);
+    return command;
+}
+
+CLI::App* AddCheckCatalog(CLI::App& catalog, RawLine& line) {
+    CLI::App* command = catalog.add_subcommand(
+        "verificar", "Confere cada arquivo; termina com o estado 3 se algo não confere");
+    command->group(CommandGroup);
+    Prepare(*command);
+    AddCheckCatalogOptions(*command, line.checkCatalog);
+    return command;
+}
+
+CLI::App* AddListCatalog(CLI::App& catalog, RawLine& line) {
+    CLI::App* command = catalog.add_subcommand("listar", "Mostra os produtos do catálogo");
+    command->group(CommandGroup);
+    Prepare(*command);
+    AddListCatalogOptions(*command, line.listCatalog);
+    return command;
+}
+
 std::string Before(const std::string& text, std::string_view mark) {
     return text.substr(0, text.find(mark));
 }
@@ -264,13 +294,19 @@ std::string NameWithoutValue(const CLI::App& app) {
                 return option->get_name();
             }
         }
+        if (std::string name = NameWithoutValue(*command); !name.empty()) {
+            return name;
+        }
     }
     return {};
 }
 
 CommandLineResult WrongUse(const std::string& sentence, const CLI::App& app) {
-    const std::vector<CLI::App*> given = app.get_subcommands();
-    const std::string command = given.empty() ? "" : given.front()->get_name() + " ";
+    std::string command;
+    for (std::vector<CLI::App*> given = app.get_subcommands(); !given.empty();
+         given = given.front()->get_subcommands()) {
+        command += given.front()->get_name() + " ";
+    }
     CommandLineResult result;
     result.status = StatusWrongUse;
     result.error = "vantoro: " + sentence + ".\nVeja \"vantoro " + command + "--ajuda\".\n";
@@ -291,7 +327,7 @@ CLI::App* AddPlain(CLI::App& app, const char* name, const char* description) {
 }
 
 std::vector<Form> AddForms(CLI::App& app, RawLine& line) {
-    return {
+    std::vector<Form> forms = {
         {AddCalculate(app, line), [&line] { return line.calculate; }},
         {AddSimulate(app, line), [&line] { return line.simulate; }},
         {AddIes(app, line), [&line] { return line.ies; }},
@@ -305,6 +341,10 @@ std::vector<Form> AddForms(CLI::App& app, RawLine& line) {
         {AddRun(app, line), [&line] { return line.run; }},
         {AddDraw(app, line), [&line] { return line.draw; }},
     };
+    CLI::App& catalog = *AddCatalog(app);
+    forms.push_back({AddCheckCatalog(catalog, line), [&line] { return line.checkCatalog; }});
+    forms.push_back({AddListCatalog(catalog, line), [&line] { return line.listCatalog; }});
+    return forms;
 }
 
 } // namespace
@@ -320,7 +360,7 @@ CommandLineResult ReadCommandLine(const std::vector<std::string>& arguments) {
     RawLine line;
     const std::vector<Form> forms = AddForms(app, line);
     for (CLI::App* command : app.get_subcommands({})) {
-        command->group("Comandos");
+        command->group(CommandGroup);
     }
 
     CommandLineResult result;

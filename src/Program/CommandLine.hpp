@@ -81,10 +81,25 @@ struct DrawArguments {
     double scale = 0.0;             ///< denominator; 0 = each window's own
 };
 
+/// `vantoro catalogo verificar`: every file of a catalogue held to its index.
+struct CheckCatalogArguments {
+    std::string address; ///< folder or web address
+    bool json = false;
+};
+
+/// `vantoro catalogo listar`: the products of a catalogue, searched.
+struct ListCatalogArguments {
+    std::string address;
+    std::vector<std::string> words; ///< none = all products
+    std::string manufacturer;       ///< empty = of any
+    bool json = false;
+};
+
 /// What was asked for on the command line; the first alternative when nothing is left to do.
-using Request = std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments,
-                             TasksArguments, CheckRadianceArguments, ListCommandsArguments,
-                             RunArguments, DrawArguments, CalculateArguments>;
+using Request =
+    std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments, TasksArguments,
+                 CheckRadianceArguments, ListCommandsArguments, RunArguments, DrawArguments,
+                 CalculateArguments, CheckCatalogArguments, ListCatalogArguments>;
 
 /// How reading the command line ended.
 struct CommandLineResult {

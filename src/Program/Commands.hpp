@@ -15,5 +15,7 @@ int CheckRadianceCommand(const CheckRadianceArguments& arguments);
 int ListCommandsCommand(const ListCommandsArguments& arguments);
 int RunCommand(const RunArguments& arguments);
 int DrawCommand(const DrawArguments& arguments);
+int CheckCatalogCommand(const CheckCatalogArguments& arguments);
+int ListCatalogCommand(const ListCatalogArguments& arguments);
 
 } // namespace Merivane::Program

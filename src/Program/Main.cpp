@@ -34,6 +34,12 @@ struct RunRequest {
     }
     int operator()(const RunArguments& arguments) const { return RunCommand(arguments); }
     int operator()(const DrawArguments& arguments) const { return DrawCommand(arguments); }
+    int operator()(const CheckCatalogArguments& arguments) const {
+        return CheckCatalogCommand(arguments);
+    }
+    int operator()(const ListCatalogArguments& arguments) const {
+        return ListCatalogCommand(arguments);
+    }
 };
 
 int RunProgram(const std::vector<std::string>& arguments) {

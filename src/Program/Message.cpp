@@ -15,7 +15,7 @@ void Put(std::string_view text, std::FILE* stream) {
 void TellError(std::string_view sentence) {
     Put("vantoro: ", stderr);
     Put(sentence, stderr);
-    Put(sentence.ends_with(".") ? "\n" : ".\n", stderr);
+    Put(sentence.ends_with('.') || sentence.ends_with('?') ? "\n" : ".\n", stderr);
 }
 
 void TellLine(std::string_view line) {
