@@ -62,8 +62,8 @@ TEST(CommandLine, ShowsItsHelpInPortuguese) {
         EXPECT_EQ(end.error, "");
         EXPECT_NE(end.output.find("Uso: vantoro [OPÇÕES] COMANDO"), std::string::npos)
             << end.output;
-        for (const std::string command :
-             {"simular", "ies", "verificar-radiance", "comandos", "executar", "desenhar"}) {
+        for (const std::string command : {"simular", "ies", "verificar-radiance", "comandos",
+                                          "executar", "desenhar", "catalogo"}) {
             EXPECT_NE(end.output.find("\n  " + command), std::string::npos) << end.output;
         }
     }
@@ -71,7 +71,7 @@ TEST(CommandLine, ShowsItsHelpInPortuguese) {
 
 TEST(CommandLine, ShowsNoEnglishWordInAnyHelp) {
     for (const std::string command :
-         {"simular", "ies", "verificar-radiance", "comandos", "executar", "desenhar"}) {
+         {"simular", "ies", "verificar-radiance", "comandos", "executar", "desenhar", "catalogo"}) {
         const ProgramEnd end = RunVantoro({command, "--ajuda"});
         EXPECT_EQ(end.status, 0);
         for (const std::string word : {"Usage", "OPTIONS", "Options", "REQUIRED", "Positionals",
