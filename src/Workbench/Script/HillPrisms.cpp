@@ -20,7 +20,6 @@ using Host::Coordinate3D;
 constexpr double Degree = std::numbers::pi / 180.0;
 constexpr double RightAngle = 90.0; // degrees
 constexpr double Turn = 2.0 * std::numbers::pi;
-constexpr std::size_t FewestPoints = 3;
 constexpr RowLayout StatusRows = {3, 2};
 
 struct Hill {
@@ -58,18 +57,24 @@ std::vector<Coordinate> HillSteps(const ShapeInput& input, const Hill& hill) {
 std::string AddHill(ShapeSketch& sketch, const ShapeProfile& profile,
                     const std::vector<Coordinate>& steps, const LoftSection& foot,
                     const PrismSurfaces& surfaces, std::int32_t hillSurface) {
+    const char* const tooWide = "a borda inclinada é mais larga do que o polígono";
     const Loft loft = ProfileLoft(profile, hillSurface, true);
     LoftSection below = foot;
     for (const Coordinate& step : steps) {
         LoftSection here;
+        double area = 0.0;
         for (const ShapeRing& ring : profile.rings) {
             PlanRing moved;
             if (!MoveSides(ring.points, std::vector<double>(ring.points.size(), step.x), moved)) {
-                return "a borda inclinada é mais larga do que o polígono";
+                return tooWide;
             }
+            area += SignedArea(moved);
             for (const Coordinate& point : moved) {
                 here.push_back(AddVertex(sketch, {point.x, point.y, step.y}));
             }
+        }
+        if (!(area > 0.0)) {
+            return tooWide;
         }
         AddBand(sketch, loft, below, here);
         below = here;
@@ -82,7 +87,7 @@ std::string SketchHill(ShapeInput& input, ShapeSketch& sketch, bool hasStatus) {
     const PrismSurfaces surfaces = TakeSurfaces(input);
     const std::int32_t hillSurface = TakeSurface(input);
     std::size_t count = 0;
-    if (std::string refusal = TakeCount(input, FewestPoints, count); !refusal.empty()) {
+    if (std::string refusal = TakeCount(input, FewestRows(StatusRows), count); !refusal.empty()) {
         return refusal;
     }
     Hill hill;
@@ -157,7 +162,7 @@ std::string SketchStatusHillPrism(ShapeInput& input, ShapeSketch& sketch) {
 std::string SketchBentPrism(ShapeInput& input, ShapeSketch& sketch) {
     const PrismSurfaces surfaces = TakeSurfaces(input);
     std::size_t count = 0;
-    if (std::string refusal = TakeCount(input, FewestPoints, count); !refusal.empty()) {
+    if (std::string refusal = TakeCount(input, FewestRows(StatusRows), count); !refusal.empty()) {
         return refusal;
     }
     const double height = TakeNumber(input);

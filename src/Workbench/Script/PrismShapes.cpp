@@ -17,7 +17,6 @@ using Host::Coordinate3D;
 
 constexpr double Degree = std::numbers::pi / 180.0;
 constexpr double RightAngle = 90.0; // degrees
-constexpr std::size_t FewestPoints = 3;
 
 constexpr RowLayout PlainRows = {2, 0};
 constexpr RowLayout StatusRows = {3, 2};
@@ -83,7 +82,7 @@ PrismEnds StraightEnds(const ShapeProfile& profile, double height) {
 std::string SketchStraight(ShapeInput& input, ShapeSketch& sketch, const PrismSurfaces& surfaces,
                            const RowLayout& layout) {
     std::size_t count = 0;
-    if (std::string refusal = TakeCount(input, FewestPoints, count); !refusal.empty()) {
+    if (std::string refusal = TakeCount(input, FewestRows(layout), count); !refusal.empty()) {
         return refusal;
     }
     const double height = TakeNumber(input);
@@ -98,7 +97,7 @@ std::string SketchStraight(ShapeInput& input, ShapeSketch& sketch, const PrismSu
 
 std::string SketchSlanted(ShapeInput& input, ShapeSketch& sketch, const PrismSurfaces& surfaces) {
     std::size_t count = 0;
-    if (std::string refusal = TakeCount(input, FewestPoints, count); !refusal.empty()) {
+    if (std::string refusal = TakeCount(input, FewestRows(SlantedRows), count); !refusal.empty()) {
         return refusal;
     }
     const double height = TakeNumber(input);
@@ -158,7 +157,7 @@ std::string SketchTwiceSloped(ShapeInput& input, ShapeSketch& sketch,
     std::size_t count = 0;
     SlopedPlane top;
     SlopedPlane bottom;
-    if (std::string refusal = TakeCount(input, FewestPoints, count); !refusal.empty()) {
+    if (std::string refusal = TakeCount(input, FewestRows(SurfaceRows), count); !refusal.empty()) {
         return refusal;
     }
     for (SlopedPlane* const plane : {&top, &bottom}) {
@@ -177,7 +176,7 @@ std::string SketchTwiceSloped(ShapeInput& input, ShapeSketch& sketch,
 std::string SketchAnySlab(ShapeInput& input, ShapeSketch& sketch, const PrismSurfaces& surfaces,
                           const RowLayout& layout) {
     std::size_t count = 0;
-    if (std::string refusal = TakeCount(input, FewestPoints, count); !refusal.empty()) {
+    if (std::string refusal = TakeCount(input, FewestRows(layout), count); !refusal.empty()) {
         return refusal;
     }
     const double height = TakeNumber(input);
@@ -227,7 +226,7 @@ std::string SketchSlopedPrism(ShapeInput& input, ShapeSketch& sketch) {
     const PrismSurfaces surfaces = TakeSurfaces(input);
     std::size_t count = 0;
     SlopedPlane top;
-    if (std::string refusal = TakeCount(input, FewestPoints, count); !refusal.empty()) {
+    if (std::string refusal = TakeCount(input, FewestRows(StatusRows), count); !refusal.empty()) {
         return refusal;
     }
     if (std::string refusal = TakeSlope(input, top); !refusal.empty()) {

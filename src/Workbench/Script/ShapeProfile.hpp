@@ -19,6 +19,11 @@ struct RowLayout {
     std::size_t status = 0; ///< column of the status; 0 = it has none and everything is there
 };
 
+/// The fewest rows that can tell a polygon: a centre and a whole circle, where there are codes.
+inline constexpr std::size_t FewestRows(const RowLayout& layout) {
+    return layout.status > 0 ? 2 : 3;
+}
+
 /// One ring. Edge i runs from point i to the next.
 struct ShapeRing {
     PlanRing points;

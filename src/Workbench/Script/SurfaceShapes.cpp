@@ -52,7 +52,7 @@ std::vector<Coordinate3D> ArcPlaces(const ShapeInput& input, double radius, doub
 
 std::string SketchAnyPolygon(ShapeInput& input, ShapeSketch& sketch, const RowLayout& layout) {
     std::size_t count = 0;
-    if (std::string refusal = TakeCount(input, FewestPoints, count); !refusal.empty()) {
+    if (std::string refusal = TakeCount(input, FewestRows(layout), count); !refusal.empty()) {
         return refusal;
     }
     ShapeProfile profile;
