@@ -57,4 +57,15 @@ TEST(QuotedText, CutsLongTextsAtACharacter) {
               "\"12345678901234567890123456789012345678901234567890123456789...\"");
 }
 
+TEST(ShownLines, KeepsLinesAndReplacesWhatNoDocumentCanHold) {
+    EXPECT_EQ(ShownLines("a\r\nb\rc\n\td "), "a\nb\nc\n\td ");
+    EXPECT_EQ(ShownLines(std::string_view("\x01"
+                                          "a\0b\x7F",
+                                          5)),
+              " a b ");
+    EXPECT_EQ(ShownLines("\xC3 \xED\xA0\x80"), "\xEF\xBF\xBD \xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(ShownLines("é≥💡"), "é≥💡");
+    EXPECT_EQ(ShownLines("\r\r\n"), "\n\n");
+}
+
 } // namespace Merivane::Text

@@ -16,15 +16,6 @@ namespace {
 using Host::LibraryParameter;
 using Host::ParameterType;
 
-/// The quotation marks stand inside; one in the text is doubled, as the language has it.
-std::string QuotedCdata(std::string_view text) {
-    std::string quoted = "\"";
-    for (const char c : text) {
-        quoted += c == '"' ? "\"\"" : std::string(1, c);
-    }
-    return Cdata(quoted + '"');
-}
-
 std::string FlagsXml(std::int32_t flags) {
     std::string xml;
     for (const ParameterFlag& flag : ParameterFlags()) {

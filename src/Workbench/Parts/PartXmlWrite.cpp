@@ -3,8 +3,6 @@
 #include <string>
 
 #include "Text/Base64.hpp"
-#include "Text/ShownText.hpp"
-#include "Text/XmlText.hpp"
 #include "Workbench/Parts/XmlPieces.hpp"
 
 namespace Merivane::Workbench::Parts {
@@ -12,10 +10,6 @@ namespace Merivane::Workbench::Parts {
 namespace {
 
 constexpr std::size_t Base64Line = 76;
-
-std::string Attribute(std::string_view text) {
-    return '"' + Text::EscapeXml(Text::ShownText(text)) + '"';
-}
 
 /// What has no element of its own.
 std::string OwnComment(const PartDocument& document) {
@@ -26,7 +20,7 @@ std::string OwnComment(const PartDocument& document) {
 std::string SymbolTag(const PartDocument& document) {
     return "<Symbol IsArchivable=\"" + TrueOrFalse(document.isArchivable) + "\" IsPlaceable=\"" +
            TrueOrFalse(document.isPlaceable) + "\" MainGUID=\"" + BareGuid(document.mainGuid) +
-           "\" MigrationValue=" + Attribute(document.migration) + " Owner=\"" +
+           "\" MigrationValue=" + AttributeText(document.migration) + " Owner=\"" +
            std::to_string(document.owner) + "\" Signature=\"" + std::to_string(document.signature) +
            "\" Version=\"" + std::to_string(document.version) + "\">\n";
 }
@@ -34,21 +28,6 @@ std::string SymbolTag(const PartDocument& document) {
 std::string AncestryXml(const PartDocument& document) {
     return "<Ancestry" + SectionAttributes(AncestryVersion, 0) + " Template=\"" +
            TrueOrFalse(document.isTemplate) + "\">\n" + AncestryLines(document) + "</Ancestry>\n";
-}
-
-bool IsScript(const TextSectionKind& kind) {
-    return !kind.file.empty();
-}
-
-std::string TextXml(const TextSection& section) {
-    const TextSectionKind* const kind = FindTextSectionKind(section.type);
-    if (!kind) {
-        return {};
-    }
-    const std::string element(kind->element);
-    const std::string lineEnd = IsScript(*kind) ? "\n" : "";
-    return '<' + element + SectionAttributes(kind->version, section.subIdent) + '>' + lineEnd +
-           Cdata(section.text) + lineEnd + "</" + element + ">\n";
 }
 
 std::string TextsXml(const PartDocument& document, bool scripts) {
@@ -62,18 +41,18 @@ std::string TextsXml(const PartDocument& document, bool scripts) {
 
 std::string PictureXml(const PictureSection& picture, XmlUse use) {
     const std::string element = picture.isPreview ? "Picture" : "GDLPict";
-    std::string xml = '<' + element + " MIME=" + Attribute(picture.mime) +
+    std::string xml = '<' + element + " MIME=" + AttributeText(picture.mime) +
                       SectionAttributes(PictureVersion, picture.subIdent, PictureFlags(picture));
     if (picture.bytes.empty() || use == XmlUse::Converter) {
         const bool outside = picture.bytes.empty() && !picture.path.empty();
-        return xml + " path=" + Attribute(outside ? picture.path : PictureFileName(picture)) +
+        return xml + " path=" + AttributeText(outside ? picture.path : PictureFileName(picture)) +
                "/>\n";
     }
     return xml + ">\n" + Text::ToBase64(picture.bytes, Base64Line) + "\n</" + element + ">\n";
 }
 
 std::string CustomXml(const CustomSection& section) {
-    return "<CustomSection Type=" + Attribute(section.type) +
+    return "<CustomSection Type=" + AttributeText(section.type) +
            SectionAttributes(1, section.subIdent) + ">\n" +
            Text::ToBase64(section.bytes, Base64Line) + "\n</CustomSection>\n";
 }
@@ -102,10 +81,7 @@ std::string WritePartXml(const PartDocument& document, XmlUse use) {
     xml += document.macros.empty() ? std::string() : WriteMacrosXml(document.macros);
     xml += TextsXml(document, true);
     xml += document.hasParameters ? WriteParameterXml(document.parameters) : std::string();
-    if (document.hasCopyright) {
-        xml += "<Copyright" + SectionAttributes(CopyrightVersion, 0) + ">\n" +
-               CopyrightLines(document.copyright) + "</Copyright>\n";
-    }
+    xml += document.hasCopyright ? CopyrightXml(document.copyright) : std::string();
     xml += TextsXml(document, false);
     for (const PictureSection& picture : document.pictures) {
         xml += PictureXml(picture, use);

@@ -21,6 +21,14 @@ std::string Cdata(std::string_view text) {
     return "<![CDATA[" + lines + "]]>";
 }
 
+std::string QuotedCdata(std::string_view text) {
+    std::string quoted = "\"";
+    for (const char c : text) {
+        quoted += c == '"' ? "\"\"" : std::string(1, c);
+    }
+    return Cdata(quoted + '"');
+}
+
 std::string BareGuid(const Host::Guid& guid) {
     return Host::GuidText(guid).substr(1, 36);
 }
@@ -40,20 +48,39 @@ std::string AncestryLines(const PartDocument& document) {
 std::string MacroLines(const std::vector<CalledMacro>& macros) {
     std::string lines;
     for (const CalledMacro& macro : macros) {
-        lines += "\t<Macro>\n\t\t<MName>" + Cdata('"' + macro.name + '"') +
-                 "</MName>\n\t\t<MainGUID>" + BareGuid(macro.mainGuid) +
-                 "</MainGUID>\n\t</Macro>\n";
+        lines += "\t<Macro>\n\t\t<MName>" + QuotedCdata(macro.name) + "</MName>\n\t\t<MainGUID>" +
+                 BareGuid(macro.mainGuid) + "</MainGUID>\n\t</Macro>\n";
     }
     return lines;
 }
 
-std::string CopyrightLines(const Copyright& copyright) {
+bool IsScript(const TextSectionKind& kind) {
+    return !kind.file.empty();
+}
+
+std::string AttributeText(std::string_view text) {
+    return '"' + Text::EscapeXml(Text::ShownText(text)) + '"';
+}
+
+std::string TextXml(const TextSection& section) {
+    const TextSectionKind* const kind = FindTextSectionKind(section.type);
+    if (!kind) {
+        return {};
+    }
+    const std::string element(kind->element);
+    const std::string lineEnd = IsScript(*kind) ? "\n" : "";
+    return '<' + element + SectionAttributes(kind->version, section.subIdent) + '>' + lineEnd +
+           Cdata(section.text) + lineEnd + "</" + element + ">\n";
+}
+
+std::string CopyrightXml(const Copyright& copyright) {
     const auto escaped = [](const std::string& text) {
         return Text::EscapeXml(Text::ShownText(text));
     };
-    return "\t<Author>" + escaped(copyright.author) + "</Author>\n\t<License>\n\t\t<Type>" +
+    return "<Copyright" + SectionAttributes(CopyrightVersion, 0) + ">\n\t<Author>" +
+           escaped(copyright.author) + "</Author>\n\t<License>\n\t\t<Type>" +
            escaped(copyright.licence) + "</Type>\n\t\t<Version>" +
-           escaped(copyright.licenceVersion) + "</Version>\n\t</License>\n";
+           escaped(copyright.licenceVersion) + "</Version>\n\t</License>\n</Copyright>\n";
 }
 
 std::int32_t PictureFlags(const PictureSection& picture) {

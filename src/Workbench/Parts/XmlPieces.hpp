@@ -26,6 +26,10 @@ std::string SectionAttributes(std::int32_t version, std::int32_t subIdent, std::
 /// A text as CDATA; "]]>" in it is split.
 std::string Cdata(std::string_view text);
 
+/// A string's value: the quotation marks stand inside the CDATA, one in the text is doubled, as the
+/// language has it.
+std::string QuotedCdata(std::string_view text);
+
 /// A guid without braces.
 std::string BareGuid(const Host::Guid& guid);
 
@@ -41,8 +45,16 @@ std::string ParameterHeaderXml(const ParameterSection& section);
 std::string AncestryLines(const PartDocument& document);
 std::string MacroLines(const std::vector<CalledMacro>& macros);
 
-/// `<Author>` and `<License>`.
-std::string CopyrightLines(const Copyright& copyright);
+/// `<Copyright>` and the element of a text section, each with its line end; empty for a section
+/// that is no text.
+std::string CopyrightXml(const Copyright& copyright);
+std::string TextXml(const TextSection& section);
+
+/// True for the sections that are programs.
+bool IsScript(const TextSectionKind& kind);
+
+/// A text in quotation marks, as an attribute's value.
+std::string AttributeText(std::string_view text);
 
 /// 1 for pictures that are drawings (SVG), 0 for the others.
 std::int32_t PictureFlags(const PictureSection& picture);

@@ -17,8 +17,11 @@ using pugi::xml_node;
 constexpr std::size_t MostNotes = 50;
 
 std::string AtOffset(std::string_view text, std::ptrdiff_t offset, const std::string& what) {
-    const auto end =
-        offset < 0 ? text.size() : std::min(static_cast<std::size_t>(offset), text.size());
+    auto end = static_cast<std::size_t>(std::max<std::ptrdiff_t>(offset, 0));
+    while (end < text.size() && Text::IsWhiteSpace(text[end])) {
+        ++end; // a text begins with what stands before its first word
+    }
+    end = std::min(end, text.size());
     const auto line =
         std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(end), '\n');
     return "linha " + std::to_string(line + 1) + ": " + what;
