@@ -93,7 +93,7 @@ void AddPlanBlock(std::vector<CopiedSection>& sections, std::vector<std::string>
 
 void AddParameterBlock(std::vector<CopiedSection>& sections,
                        const std::vector<std::string>& hiddenNames) {
-    if (!HasSection(sections, ParameterScriptSection)) {
+    if (FindSection(sections, ParameterScriptSection) == nullptr) {
         sections.push_back({{ParameterScriptSection, 0}, ""});
     }
     for (CopiedSection& section : sections) {

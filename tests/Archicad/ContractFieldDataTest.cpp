@@ -1,20 +1,16 @@
 // Real files of many makers, brought through the host's parameters and back. They stand outside the
 // project; where the build was not told of them these tests are left out.
 
-#include <filesystem>
 #include <map>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
 #include "Archicad/ContractConversion.hpp"
+#include "FieldFiles.hpp"
 #include "Photometry/ContractBuilding.hpp"
 #include "Photometry/ContractReading.hpp"
-#include "Photometry/IesReader.hpp"
 #include "Photometry/IesSamples.hpp"
-#include "Photometry/IesText.hpp"
 #include "Photometry/IesWriter.hpp"
-#include "Support/Places.hpp"
 #include "Text/Utf16Length.hpp"
 #include "Text/Utf8.hpp"
 
@@ -23,36 +19,14 @@ namespace {
 
 using Host::LibraryParameter;
 using Photometry::IesFile;
-using Keywords = std::vector<std::pair<std::string, std::string>>;
-
-/// A file as it is chosen: its header texts in UTF-8.
-IesFile ChosenFile(const std::string& bytes) {
-    IesFile file;
-    EXPECT_TRUE(Photometry::ReadIes(bytes, file).ok);
-    for (auto& [key, value] : file.keywords) {
-        value = Photometry::NormaliseIesText(value);
-    }
-    for (std::string& line : file.otherLines) {
-        line = Photometry::NormaliseIesText(line);
-    }
-    return file;
-}
 
 class ContractFieldData : public ::testing::Test {
 protected:
     void SetUp() override {
-        const auto folder = Tests::FieldDataFolder();
-        if (folder.empty()) {
+        files = Tests::ReadFieldFiles();
+        if (files.empty()) {
             GTEST_SKIP() << "no field data told to the build";
         }
-        std::istringstream index(Tests::ReadBytes(folder / "ies" / "index.tsv"));
-        std::string row;
-        std::getline(index, row);
-        while (std::getline(index, row)) {
-            const std::string name = row.substr(0, row.find('\t'));
-            files[name] = ChosenFile(Tests::ReadBytes(folder / "ies" / name));
-        }
-        EXPECT_EQ(files.size(), 71U);
     }
 
     std::map<std::string, IesFile> files;
@@ -95,11 +69,7 @@ TEST_F(ContractFieldData, ComesBackWithItsKeywordsAndItsOtherLinesBehindThem) {
         SCOPED_TRACE(name);
         const auto others = filesWithOtherLines.find(name);
         EXPECT_EQ(file.otherLines.size(), others == filesWithOtherLines.end() ? 0 : others->second);
-        Keywords expected = file.keywords;
-        for (const std::string& line : file.otherLines) {
-            expected.emplace_back("OTHER", line);
-        }
-        EXPECT_EQ(ThroughTheHost(file).keywords, expected);
+        EXPECT_EQ(ThroughTheHost(file).keywords, Tests::KeywordsOfContract(file));
     }
 }
 

@@ -24,7 +24,8 @@ TEST(OwnLayerName, BeginsWithTheAddOnsNameOfTodayOrOfBefore) {
 TEST(AttributeName, IsCutWhereTheHostEndsIt) {
     EXPECT_EQ(CutAttributeName(std::string(255, 'a')), std::string(255, 'a'));
     EXPECT_EQ(CutAttributeName(std::string(256, 'a')), std::string(255, 'a'));
-    EXPECT_EQ(CutAttributeName(std::string(254, 'a') + "ç"), std::string(254, 'a'));
+    const std::string letters(254, 'a');
+    EXPECT_EQ(CutAttributeName(letters + "ç"), letters);
 }
 
 TEST_F(OlderNames, AreReplacedAndTheAttributeKeepsItsNumber) {

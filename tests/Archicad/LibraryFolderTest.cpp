@@ -1,0 +1,88 @@
+#include "Archicad/LibraryFolder.hpp"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "LibrarySession.hpp"
+#include "Text/NativePath.hpp"
+#include "Workbench/Session.hpp"
+
+namespace Merivane::Archicad {
+namespace {
+
+using Tests::FilesIn;
+
+class LibraryFolder : public Tests::LibrarySession {
+protected:
+    std::vector<std::wstring> LibraryPaths() const {
+        std::vector<Host::Library> libraries;
+        std::int32_t embedded = -1;
+        EXPECT_EQ(Host::GetLibraries(libraries, embedded), Host::NoError);
+        std::vector<std::wstring> paths;
+        for (const Host::Library& library : libraries) {
+            paths.push_back(library.path);
+        }
+        return paths;
+    }
+
+    std::wstring found = L"antes";
+};
+
+TEST_F(LibraryFolder, StandsAmongTheUsersDocuments) {
+    EXPECT_EQ(DefaultLibraryFolder(found), Host::NoError);
+    EXPECT_EQ(found, Text::WidePath(OwnFolder()));
+    EXPECT_FALSE(std::filesystem::exists(OwnFolder()));
+    Workbench::FailCall("GetSpecialFolder", 1, Host::BadParameters);
+    std::wstring kept = L"antes";
+    EXPECT_EQ(DefaultLibraryFolder(kept), Host::BadParameters);
+    EXPECT_EQ(kept, L"antes");
+}
+
+TEST_F(LibraryFolder, IsMadeAndAddedToTheProjectOnce) {
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(EnsureLibraryFolderInProject(found), Host::NoError);
+        EXPECT_EQ(found, Text::WidePath(OwnFolder()));
+        EXPECT_TRUE(std::filesystem::is_directory(OwnFolder()));
+        EXPECT_EQ(LibraryPaths(), (std::vector<std::wstring>{Text::WidePath(SourceFolder()),
+                                                             Text::WidePath(OwnFolder())}));
+    }
+    EXPECT_EQ(Workbench::CurrentSession().calls["AddLibrary"], 2); // one is the session's own
+}
+
+TEST_F(LibraryFolder, IsRefusedWhereNothingCanBeWritten) {
+    std::filesystem::create_directory(OwnFolder());
+    std::filesystem::permissions(OwnFolder(), std::filesystem::perms::owner_read |
+                                                  std::filesystem::perms::owner_exec);
+    EXPECT_EQ(EnsureLibraryFolderInProject(found), Host::GeneralError);
+    EXPECT_EQ(found, L"antes");
+    EXPECT_EQ(LibraryPaths().size(), 1U);
+    std::filesystem::permissions(OwnFolder(), std::filesystem::perms::owner_all);
+    EXPECT_EQ(EnsureLibraryFolderInProject(found), Host::NoError);
+}
+
+TEST_F(LibraryFolder, IsRefusedWhereAFileStandsInItsPlace) {
+    Tests::WriteBytes(OwnFolder(), "");
+    EXPECT_EQ(EnsureLibraryFolderInProject(found), Host::GeneralError);
+    EXPECT_EQ(LibraryPaths().size(), 1U);
+}
+
+TEST_F(LibraryFolder, PassesTheHostsCodesUp) {
+    for (const char* operation : {"GetSpecialFolder", "GetLibraries", "AddLibrary"}) {
+        Workbench::FailCall(operation, 1, Host::NotMine);
+        EXPECT_EQ(EnsureLibraryFolderInProject(found), Host::NotMine) << operation;
+        EXPECT_EQ(found, L"antes");
+    }
+}
+
+TEST(IsSameFolder, SeesThroughSpellings) {
+    EXPECT_TRUE(IsSameFolder(L"/a/b", L"/a/b"));
+    EXPECT_TRUE(IsSameFolder(L"/a/b/", L"/a/b"));
+    EXPECT_TRUE(IsSameFolder(L"/a/./c/../b", L"/a/b"));
+    EXPECT_FALSE(IsSameFolder(L"/a/b", L"/a/bc"));
+    EXPECT_FALSE(IsSameFolder(L"/a/b", L"/a"));
+    EXPECT_FALSE(IsSameFolder(L"", L"/a"));
+}
+
+} // namespace
+} // namespace Merivane::Archicad
