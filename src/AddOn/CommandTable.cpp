@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "AddOn/Commands/AddIesToSelectedObject.hpp"
 #include "AddOn/Commands/CalculateLighting.hpp"
 #include "AddOn/Commands/CheckRadianceInstallation.hpp"
 #include "AddOn/Commands/ConfigureEngine.hpp"
@@ -18,7 +19,7 @@ constexpr CommandRow Rows[] = {
     {32501, "Diagnostico: criar camada de teste"},
     {32502, "Verificar instalacao do Radiance...", Diagnostics::CheckRadianceInstallation,
      WithoutProject},
-    {32503, "Adicionar fotometria IES ao objeto selecionado..."},
+    {32503, "Adicionar fotometria IES ao objeto selecionado...", AddIesToSelectedObject},
     {32504, "Importar luminaria (SketchUp + IES)..."},
     {32505, "Calcular iluminacao (Zonas selecionadas ou do pavimento)", CalculateLighting},
     {32506, "Diagnostico: coordenadas do corte ativo"},

@@ -17,6 +17,41 @@ inline constexpr std::int16_t LightMarkIcon = 10203;
 /// The toolbar palette.
 inline constexpr std::int16_t Toolbar = 32750;
 
+namespace AddIes {
+inline constexpr std::int16_t Dialog = 32600;
+inline constexpr std::int16_t Accept = 1;
+inline constexpr std::int16_t Cancel = 2;
+inline constexpr std::int16_t SourceName = 4;
+inline constexpr std::int16_t ObjectInfo = 5;
+inline constexpr std::int16_t FileName = 7;
+inline constexpr std::int16_t Identity = 8;
+inline constexpr std::int16_t Flux = 9;
+inline constexpr std::int16_t Table = 10;
+inline constexpr std::int16_t FrontTitle = 11;
+inline constexpr std::int16_t FrontView = 12;
+inline constexpr std::int16_t SideTitle = 13;
+inline constexpr std::int16_t SideView = 14;
+inline constexpr std::int16_t PlanTitle = 15;
+inline constexpr std::int16_t PlanView = 16;
+inline constexpr std::int16_t Catalog = 19;
+inline constexpr std::int16_t Luminaire = 21;
+inline constexpr std::int16_t Lamp = 23;
+inline constexpr std::int16_t ColourRendering = 25;
+inline constexpr std::int16_t PartName = 27;
+inline constexpr std::int16_t MaintenanceFactor = 29;
+inline constexpr std::int16_t CenterX = 32;
+inline constexpr std::int16_t CenterY = 34;
+inline constexpr std::int16_t CenterZ = 36;
+inline constexpr std::int16_t LowerFace = 37;
+inline constexpr std::int16_t Middle = 38;
+inline constexpr std::int16_t UpperFace = 39;
+inline constexpr std::int16_t Hint = 40;
+inline constexpr std::int16_t C0Rotation = 43;
+inline constexpr std::int16_t TiltAngle = 45;
+inline constexpr std::int16_t TiltDirection = 47;
+inline constexpr std::int16_t Legend = 48;
+} // namespace AddIes
+
 namespace Calculation {
 inline constexpr std::int16_t Dialog = 32620;
 inline constexpr std::int16_t Accept = 1;

@@ -60,7 +60,7 @@ TEST(OwnResources, AreReadWhole) {
             ++scripts;
         }
     }
-    EXPECT_EQ(scripts, 8U);
+    EXPECT_EQ(scripts, 9U);
     EXPECT_EQ(script, OwnResources());
     EXPECT_TRUE(script.others.empty());
     EXPECT_EQ(script.identities.count(32500), 1U);
@@ -181,8 +181,8 @@ TEST(OwnResources, HaveTheIconOfEveryMenuAndButton) {
 }
 
 TEST(OwnResources, HaveAHelpLineForEachItemOfEachDialog) {
-    EXPECT_EQ(OwnResources().dialogs.size(), 6U);
-    EXPECT_EQ(OwnResources().dialogHelps.size(), 6U);
+    EXPECT_EQ(OwnResources().dialogs.size(), 7U);
+    EXPECT_EQ(OwnResources().dialogHelps.size(), 7U);
     for (const auto& [number, dialog] : OwnResources().dialogs) {
         const auto& tooltips = OwnResources().dialogHelps.at(number).tooltips;
         ASSERT_EQ(tooltips.size(), dialog.items.size()) << number;
