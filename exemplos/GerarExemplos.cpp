@@ -1,5 +1,6 @@
-// gerar-exemplos PASTA: writes the IES files, the scenes and the project of the examples into a
-// folder. The same program writes the same bytes wherever and whenever it runs.
+// gerar-exemplos PASTA: writes the IES files, the scenes and the project of the examples, with its
+// library parts, into a folder. The same program writes the same bytes wherever and whenever it
+// runs.
 
 #include <cstdio>
 #include <filesystem>
@@ -9,6 +10,7 @@
 #include "Text/FileBytes.hpp"
 #include "Text/NativePath.hpp"
 #include "Workbench/Project/ProjectFile.hpp"
+#include "exemplos/LuminaireAuthoring.hpp"
 #include "exemplos/OfficeProject.hpp"
 #include "exemplos/SampleFormat.hpp"
 #include "exemplos/SampleLuminaires.hpp"
@@ -41,8 +43,14 @@ bool WriteAll(const std::filesystem::path& folder) {
             return false;
         }
     }
+    Workbench::Project authored;
+    std::string error;
+    if (!Examples::AuthorLuminaires(std::filesystem::absolute(folder), authored, error)) {
+        std::fprintf(stderr, "%s\n", error.c_str());
+        return false;
+    }
     return Write(folder / "escritorio.vantoro",
-                 Workbench::WriteProject(Examples::BuildOfficeProject()));
+                 Workbench::WriteProject(Examples::BuildOfficeProject(authored)));
 }
 
 } // namespace

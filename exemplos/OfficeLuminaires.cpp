@@ -1,16 +1,10 @@
-#include <array>
-#include <cmath>
+#include <algorithm>
 #include <numbers>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "Archicad/ContractConversion.hpp"
-#include "Photometry/ContractBuilding.hpp"
-#include "Photometry/LuminaireIdentity.hpp"
 #include "exemplos/OfficePlan.hpp"
 #include "exemplos/OfficeProject.hpp"
-#include "exemplos/SampleLuminaires.hpp"
 
 namespace Merivane::Examples {
 
@@ -18,72 +12,14 @@ namespace {
 
 using Host::ElementType;
 using Host::LibraryParameter;
-using Workbench::GivenBody;
 
 constexpr double Quarter = std::numbers::pi / 2.0;
-constexpr const char* Diffuser = "Difusor opalino";
-constexpr const char* Housing = "Chapa branca";
-
-/// What makes one type: its file, its flange, its body, what its maker tells.
-struct LuminaireType {
-    std::string iesFile;
-    double flangeDepth = 0.0; ///< below the part's origin [m]
-    double sizeA = 0.0;
-    double sizeB = 0.0;
-    std::vector<GivenBody> bodies;
-    double colourRendering =
-        0.0; ///< where the file does not tell it; 0 = the maker does not either
-};
-
-Photometry::IesFile PhotometryOf(const LuminaireType& type) {
-    Photometry::IesFile file;
-    for (const SampleLuminaire& sample : BuildSampleLuminaires()) {
-        if (sample.fileName == type.iesFile) {
-            file = sample.photometry;
-        }
-    }
-    Photometry::LuminaireIdentity identity = Photometry::IdentityFromIes(file);
-    if (identity.colourRendering == 0.0) {
-        identity.colourRendering = type.colourRendering;
-        Photometry::ApplyIdentityToIes(identity, file);
-    }
-    return file;
-}
-
-std::vector<LibraryParameter> ContractOf(const LuminaireType& type) {
-    Photometry::LuminaireSettings settings;
-    settings.iesFileName = type.iesFile;
-    settings.flangeDepth = type.flangeDepth;
-    std::vector<LibraryParameter> parameters;
-    for (const Photometry::ContractParameter& parameter :
-         Photometry::BuildContract(PhotometryOf(type), settings)) {
-        Archicad::ToAddPar(parameter, parameters.emplace_back());
-        if (parameter.name == "mvLuminousFlux") { // the sum's last digits differ between systems
-            parameters.back().number = std::round(parameters.back().number);
-        }
-    }
-    return parameters;
-}
-
-std::int32_t AddType(ProjectBuilder& builder, LuminaireType type) {
-    const Photometry::IesFile file = PhotometryOf(type);
-    Workbench::ProjectPart part;
-    part.name = Photometry::IdentityFromIes(file).luminaire;
-    part.mainGuid = Workbench::NextGuid(builder.guids);
-    part.isLamp = true;
-    part.sizeA = type.sizeA;
-    part.sizeB = type.sizeB;
-    part.parameters = ContractOf(type);
-    part.surfaces = {{Diffuser, {0.98, 0.97, 0.93}, 0.70, 0.0},
-                     {Housing, {0.92, 0.92, 0.92}, 0.80, 0.0}};
-    part.bodies = std::move(type.bodies);
-    builder.project.parts.push_back(std::move(part));
-    return static_cast<std::int32_t>(builder.project.parts.size());
-}
-
-GivenBody LampBox(double length, double width, double bottom, double top) {
-    return BoxBody({{-length / 2.0, -width / 2.0, bottom}, {length / 2.0, width / 2.0, top}},
-                   Diffuser, Housing);
+std::int32_t PartNamed(const ProjectBuilder& builder, const std::string& name) {
+    const auto& parts = builder.project.parts;
+    const auto found =
+        std::find_if(parts.begin(), parts.end(),
+                     [&name](const Workbench::ProjectPart& part) { return part.name == name; });
+    return static_cast<std::int32_t>(found - parts.begin()) + 1;
 }
 
 // Where a luminaire stands, and how it differs from its part.
@@ -102,7 +38,7 @@ public:
     /// The reference lasts until the next one is placed.
     Workbench::ProjectElement& Put(const Placing& placing, Host::Coordinate position) {
         const Workbench::ProjectPart& part =
-            builder.project.parts[static_cast<std::size_t>(placing.part) - 1];
+            builder.project.parts.at(static_cast<std::size_t>(placing.part) - 1);
         Host::ObjectData object;
         object.libraryIndex = placing.part;
         object.position = position;
@@ -130,7 +66,7 @@ public:
     LibraryParameter& Override(Workbench::ProjectElement& element, const std::string& name) {
         const auto& object = std::get<Host::ObjectData>(element.element.data);
         return Override(element,
-                        builder.project.parts[static_cast<std::size_t>(object.libraryIndex) - 1],
+                        builder.project.parts.at(static_cast<std::size_t>(object.libraryIndex) - 1),
                         name);
     }
 
@@ -151,21 +87,11 @@ private:
 } // namespace
 
 void AddOfficeLuminaires(ProjectBuilder& builder) {
-    const std::int32_t panel = AddType(
-        builder,
-        {"painel-antiofuscante-34.ies", 0.005, 0.6, 0.6, {LampBox(0.6, 0.6, -0.005, 0.06)}});
-    const std::int32_t downlight =
-        AddType(builder, {"downlight.ies",
-                          0.003,
-                          0.17,
-                          0.17,
-                          {CylinderBody(0.085, -0.003, 0.1, Diffuser, Housing)}});
-    const std::int32_t linear =
-        AddType(builder, {"linear-asa.ies", 0.0, 1.2, 0.07, {LampBox(1.2, 0.07, 0.0, 0.08)}, 80.0});
-    const std::int32_t pendant =
-        AddType(builder, {"pendente-duplo.ies", 0.0, 1.5, 0.1, {LampBox(1.5, 0.1, 0.0, 0.06)}});
-    const std::int32_t washer =
-        AddType(builder, {"lavador.ies", 0.0, 0.6, 0.08, {LampBox(0.6, 0.08, 0.0, 0.08)}, 80.0});
+    const std::int32_t panel = PartNamed(builder, "Painel Antiofuscante 600 Alto Fluxo");
+    const std::int32_t downlight = PartNamed(builder, "Downlight Roda 150");
+    const std::int32_t linear = PartNamed(builder, "Linear Asa 1200");
+    const std::int32_t pendant = PartNamed(builder, "Pendente Duplo 1500");
+    const std::int32_t washer = PartNamed(builder, "Lavador de Parede 600");
 
     Placer placer(builder);
     const Placing office = {panel, 0, CeilingHeight, 0.0, "C1"};

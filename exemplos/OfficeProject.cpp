@@ -94,7 +94,7 @@ void AddOfficeZones(ProjectBuilder& builder) {
         Simulation::SerializeZoneTasks(tasks, Simulation::ReferenceStandard::Brazilian)};
 }
 
-Workbench::Project BuildOfficeProject() {
+Workbench::Project BuildOfficeProject(const Workbench::Project& authored) {
     ProjectBuilder builder{Workbench::MakeEmptyProject(), Workbench::MakeGuidSource(GuidSeed)};
     Workbench::Project& project = builder.project;
     project.name = "Escritório Ateliê Exemplo";
@@ -103,13 +103,14 @@ Workbench::Project BuildOfficeProject() {
     AddOfficeShell(builder);
     AddOfficeAssemblies(builder);
     AddOfficeFurniture(builder);
+    project.parts.insert(project.parts.end(), authored.parts.begin(), authored.parts.end());
     AddOfficeLuminaires(builder);
     AddOfficeZones(builder);
     AddOfficeDrawings(builder);
     AddCombination(project, 1, "Arquitetura", false);
     AddCombination(project, 2, "Luminotécnico", true);
     AddView(builder);
-    project.libraries = {{"Biblioteca embutida", "escritorio-biblioteca", true}};
+    project.libraries = authored.libraries;
     return project;
 }
 

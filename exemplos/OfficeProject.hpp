@@ -6,8 +6,8 @@
 /// The sample project: an office of two storeys, from its ground to its roof.
 namespace Merivane::Examples {
 
-/// The whole project.
-Workbench::Project BuildOfficeProject();
+/// The whole project. Its luminaires are the parts of `authored`, whose libraries it takes over.
+Workbench::Project BuildOfficeProject(const Workbench::Project& authored);
 
 /// Walls with their windows and doors, slabs, ceilings, columns, beam, roof and ground.
 void AddOfficeShell(ProjectBuilder& builder);
@@ -18,7 +18,7 @@ void AddOfficeAssemblies(ProjectBuilder& builder);
 /// Furniture: library parts and where they stand.
 void AddOfficeFurniture(ProjectBuilder& builder);
 
-/// Five types of luminaires with the whole photometric contract, and 40 of them.
+/// Forty luminaires of five types, whose parts the project has already.
 void AddOfficeLuminaires(ProjectBuilder& builder);
 
 /// Five Zones on two floors, and the activities of the first two.

@@ -58,6 +58,20 @@ struct ModelSurface {
 /// for a type without one.
 ErrorCode GetBodies(const Guid& guid, std::vector<Body>& bodies);
 
+/// A source of light that an object's or lamp's script marks, in the project's frame.
+struct ModelLight {
+    Coordinate3D position;  ///< [m]
+    Coordinate3D direction; ///< where a host would shine it: the script's local +x, length 1
+    Colour colour;
+    bool shadow = true;
+
+    bool operator==(const ModelLight&) const = default;
+};
+
+/// The sources of light of an element, none for one whose script marks none. Codes as for
+/// `GetBodies`.
+ErrorCode GetLights(const Guid& guid, std::vector<ModelLight>& lights);
+
 /// A surface that a script defines, by a number from `FirstScriptSurface` up that `GetBodies` gave
 /// in this session. BadIndex.
 ErrorCode GetScriptSurface(std::int32_t surface, ModelSurface& model);

@@ -2,6 +2,7 @@
 
 #include "Host/Model3D.hpp"
 #include "Workbench/Model/ElementBodies.hpp"
+#include "Workbench/Model/ElementLights.hpp"
 #include "Workbench/Model/ScriptSurfaces.hpp"
 #include "Workbench/Project/ElementRules.hpp"
 #include "Workbench/Session.hpp"
@@ -48,6 +49,26 @@ ErrorCode GetBodies(const Guid& guid, std::vector<Body>& bodies) {
         return GeneralError;
     }
     bodies = std::move(built);
+    return NoError;
+}
+
+ErrorCode GetLights(const Guid& guid, std::vector<ModelLight>& lights) {
+    if (const ErrorCode code = Workbench::CountProjectCall("GetLights")) {
+        return code;
+    }
+    const Session& session = CurrentSession();
+    const auto* const element = Workbench::FindElement(session.project, session.index, guid);
+    if (!element) {
+        return BadId;
+    }
+    const ElementHeader& header = element->element.header;
+    if (const ErrorCode code = Workbench::CheckLayer(session.project, header.layer)) {
+        return code;
+    }
+    if (!Workbench::HasBody(header.type)) {
+        return NoBody;
+    }
+    lights = Workbench::BuildElementLights(SourceOf(session), *element);
     return NoError;
 }
 

@@ -67,6 +67,13 @@ void FitToObject(FacedBody& body, const ProjectPart& part, const Host::ObjectDat
     }
 }
 
+void MirrorObject(FacedBody& body) {
+    for (Host::Coordinate3D& vertex : body.vertices) {
+        vertex.x = -vertex.x;
+    }
+    TurnFaces(body);
+}
+
 BodyTransform PlaceObject(const Host::ObjectData& object, double storyLevel) {
     const double cosine = std::cos(object.angle);
     const double sine = std::sin(object.angle);

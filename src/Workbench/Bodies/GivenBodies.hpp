@@ -27,6 +27,9 @@ FacedBody BuildMorphBody(const Host::MorphData& morph, const Host::MorphBody& bo
 /// its faces still look outside.
 void FitToObject(FacedBody& body, const ProjectPart& part, const Host::ObjectData& object);
 
+/// Mirrors a body of a part, x to -x; its faces still look outside.
+void MirrorObject(FacedBody& body);
+
 /// Turns and moves a part's body to its object; `storyLevel` [m].
 BodyTransform PlaceObject(const Host::ObjectData& object, double storyLevel);
 

@@ -1,17 +1,21 @@
 #include "Workbench/Display/PlanModel.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "Workbench/Display/BodyCut.hpp"
 #include "Workbench/Display/CutStyle.hpp"
 #include "Workbench/Display/DrawnElements.hpp"
+#include "Workbench/Display/PlacedSymbol.hpp"
 #include "Workbench/Display/SeenOutlines.hpp"
 #include "Workbench/Display/ShownModel.hpp"
 #include "Workbench/Display/WindowDrawing.hpp"
 #include "Workbench/Model/ElementBodies.hpp"
+#include "Workbench/Model/PartRuns.hpp"
 
 namespace Merivane::Workbench {
 
@@ -94,6 +98,35 @@ void AddBuildingElement(const Project& project, const ShownElement& shown, bool 
     }
 }
 
+// What a part's plan script draws; where it asks for the model seen from above, that.
+void AddScriptedObject(const Project& project, const ShownElement& shown, const ProjectPart& part,
+                       const Drawing::Stroke& stroke, PaperDrawing& drawing,
+                       std::vector<Drawing::Element>& elements) {
+    const auto& object = std::get<Host::ObjectData>(shown.element->element.data);
+    const PlanSymbolDrawing& symbol = SymbolOfObject(project, part, *shown.element, drawing.scale);
+    const bool showsModel =
+        std::any_of(symbol.shapes.begin(), symbol.shapes.end(), [](const PlanShape& shape) {
+            return std::holds_alternative<PlanProjection>(shape);
+        });
+    if (showsModel) {
+        AddOutlines(shown.bodies, HUGE_VAL, stroke, drawing, elements);
+    }
+    AddPlacedSymbol(project, symbol, PlaceOfObject(object), drawing, elements);
+}
+
+void AddObject(const Project& project, const ShownElement& shown, PaperDrawing& drawing) {
+    const bool isLamp = shown.element->element.header.type == ElementType::Lamp;
+    const Drawing::Stroke stroke = isLamp ? LampStroke() : ObjectStroke();
+    std::vector<Drawing::Element>& elements = isLamp ? drawing.above : drawing.below;
+    const auto* const object = std::get_if<Host::ObjectData>(&shown.element->element.data);
+    const ProjectPart* const part = object ? FindObjectPart(project, *object) : nullptr;
+    if (part && HasPlanScript(*part)) {
+        AddScriptedObject(project, shown, *part, stroke, drawing, elements);
+    } else {
+        AddOutlines(shown.bodies, HUGE_VAL, stroke, drawing, elements);
+    }
+}
+
 // A filled triangle that shows where the viewer looks, at an end of a section's line.
 void AddArrow(const Drawing::Point& end, const Drawing::Point& along, PaperDrawing& drawing) {
     const Drawing::Point left = {-along.y, along.x};
@@ -125,10 +158,8 @@ void AddPlanModel(const Project& project, std::int16_t floorIndex, PaperDrawing&
         const Host::ElementHeader& header = shown.element->element.header;
         const bool isOfFloor = header.floorIndex == floorIndex;
         if (header.type == ElementType::Object || header.type == ElementType::Lamp) {
-            const bool isLamp = header.type == ElementType::Lamp;
             if (isOfFloor) {
-                AddOutlines(shown.bodies, HUGE_VAL, isLamp ? LampStroke() : ObjectStroke(), drawing,
-                            isLamp ? drawing.above : drawing.below);
+                AddObject(project, shown, drawing);
             }
         } else {
             AddBuildingElement(project, shown, isOfFloor, cutHeight, layers, drawing);

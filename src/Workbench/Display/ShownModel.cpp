@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <variant>
 
 #include "Workbench/Bodies/PolygonRings.hpp"
 #include "Workbench/Display/DrawnElements.hpp"
@@ -69,7 +70,8 @@ std::vector<ShownElement> CollectShownElements(const Project& project, const Vie
     for (const ProjectElement& element : project.elements) {
         if (IsOnVisibleLayer(project, element)) {
             ShownElement next = ShowElement(source, element, frame);
-            if (!next.bodies.empty()) {
+            if (!next.bodies.empty() ||
+                std::holds_alternative<Host::ObjectData>(element.element.data)) {
                 shown.push_back(std::move(next));
             }
         }

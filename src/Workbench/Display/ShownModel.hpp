@@ -12,10 +12,10 @@ namespace Merivane::Workbench {
 /// An element of the model as a view shows it: its bodies and those of its parts.
 struct ShownElement {
     const ProjectElement* element = nullptr; ///< of the project
-    std::vector<ViewBody> bodies;            ///< at least one, each with faces
+    std::vector<ViewBody> bodies;            ///< each with faces; of objects maybe none
 };
 
-/// The elements with bodies on visible layers, in their order.
+/// The elements with bodies, and all objects and lamps, on visible layers, in their order.
 std::vector<ShownElement> CollectShownElements(const Project& project, const ViewFrame& frame);
 
 /// Lowest and highest depth of a body in its view [m].

@@ -7,9 +7,10 @@
 
 #include "Workbench/Bodies/FacedBody.hpp"
 #include "Workbench/Bodies/GivenBodies.hpp"
-#include "Workbench/Model/ScriptSurfaces.hpp"
 #include "Workbench/Bodies/SolidBodies.hpp"
 #include "Workbench/Bodies/WallBody.hpp"
+#include "Workbench/Model/PartRuns.hpp"
+#include "Workbench/Model/ScriptSurfaces.hpp"
 
 namespace Merivane::Workbench {
 
@@ -70,8 +71,21 @@ bool BuildOpening(const BodySource& source, const OpeningGeometry& opening,
     return true;
 }
 
-bool BuildObject(const BodySource& source, const Host::ElementHeader& header,
+// A model that scripts built already has the object's sizes.
+void AddScriptedBodies(const PartModel& model, const Host::ObjectData& object,
+                       const BodyTransform& transform, std::vector<Host::Body>& bodies) {
+    for (const FacedBody& built : model.bodies) {
+        FacedBody faced = built;
+        if (object.mirrored) {
+            MirrorObject(faced);
+        }
+        AddBody(faced, transform, bodies);
+    }
+}
+
+bool BuildObject(const BodySource& source, const ProjectElement& element,
                  const Host::ObjectData& object, std::vector<Host::Body>& bodies) {
+    const Host::ElementHeader& header = element.element.header;
     const ProjectPart* part = FindObjectPart(*source.project, object);
     if (part == nullptr) {
         return false;
@@ -81,6 +95,10 @@ bool BuildObject(const BodySource& source, const Host::ElementHeader& header,
     };
     const BodyTransform transform =
         PlaceObject(object, StoryLevel(*source.project, header.floorIndex));
+    if (HasModelScript(*part)) {
+        AddScriptedBodies(ModelOfObject(*source.project, *part, element), object, transform,
+                          bodies);
+    }
     for (const GivenBody& given : part->bodies) {
         FacedBody faced = BuildGivenBody(given, numberOf);
         FitToObject(faced, *part, object);
@@ -155,7 +173,7 @@ bool BuildElementBodies(const BodySource& source, const ProjectElement& element,
         return BuildOpening(source, *opening, bodies);
     }
     if (const auto* object = std::get_if<Host::ObjectData>(&element.element.data)) {
-        return BuildObject(source, header, *object, bodies);
+        return BuildObject(source, element, *object, bodies);
     }
     const BodyTransform lift = LiftBody(StoryLevel(*source.project, header.floorIndex));
     if (const auto* morph = std::get_if<Host::MorphData>(&element.element.data)) {

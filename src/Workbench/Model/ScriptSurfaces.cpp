@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "Host/Model3D.hpp"
+#include "Workbench/Model/PartRuns.hpp"
 
 namespace Merivane::Workbench {
 
@@ -25,6 +26,14 @@ std::int32_t NumberScriptSurface(const Project& project, const ProjectPart& part
     return Host::FirstScriptSurface + static_cast<std::int32_t>(number);
 }
 
+std::int32_t FirstRunSurface(const Project& project) {
+    std::size_t count = 0;
+    for (const ProjectPart& part : project.parts) {
+        count += part.surfaces.size();
+    }
+    return Host::FirstScriptSurface + static_cast<std::int32_t>(count);
+}
+
 const Host::ModelSurface* FindScriptSurface(const Project& project, std::int32_t number) {
     if (number < Host::FirstScriptSurface) {
         return nullptr;
@@ -36,7 +45,8 @@ const Host::ModelSurface* FindScriptSurface(const Project& project, std::int32_t
         }
         left -= part.surfaces.size();
     }
-    return nullptr;
+    const PartRuns* const runs = project.runs.kept.get();
+    return runs && left < runs->surfaces.size() ? &runs->surfaces[left] : nullptr;
 }
 
 } // namespace Merivane::Workbench
