@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 #include <random>
 #include <string>
 
@@ -150,11 +150,11 @@ TEST(CatalogIndex, OfAHundredThousandProductsIsReadWhole) {
         products.back().id = "luz/p-" + std::to_string(i);
     }
     const std::string text = JsonWrite(BuildCatalogIndex(products, "2026-11-21"));
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     const CatalogIndex index = ParseCatalogIndex(text);
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    const std::clock_t taken = std::clock() - start; // of the processor, whoever else uses it
     RecordProperty("megabytes", static_cast<int>(text.size() / 1000000));
-    RecordProperty("milliseconds", static_cast<int>(taken.count() * 1000.0));
+    RecordProperty("milliseconds", static_cast<int>(taken / (CLOCKS_PER_SEC / 1000)));
     ASSERT_TRUE(index.ok) << index.error;
     ASSERT_EQ(index.products.size(), 100000U);
     EXPECT_EQ(index.incomplete, 0U);
