@@ -60,7 +60,7 @@ std::string_view RepositoryPath(std::string_view address) {
     const std::size_t start = lower.find("://") + 3;
     for (const std::string_view prefix : {"", "www."}) {
         const std::string host = std::string(prefix) + std::string(CodeHost) + "/";
-        if (std::string_view(lower).substr(start).starts_with(host)) {
+        if (lower.compare(start, host.size(), host) == 0) {
             return address.substr(start + host.size());
         }
     }
