@@ -13,6 +13,7 @@
 #include "Text/NativePath.hpp"
 #include "Text/ShownText.hpp"
 #include "Text/Utf8.hpp"
+#include "Workbench/Model/PartRuns.hpp"
 #include "Workbench/PartInMaking.hpp"
 #include "Workbench/PartLibraries.hpp"
 #include "Workbench/Parts/BuiltInSubtypes.hpp"
@@ -264,6 +265,7 @@ ErrorCode SavePart(LibraryPart& part) {
     auto& parts = session.project.parts;
     parts.push_back(
         Workbench::MakeLibraryPart(making->part.name, making->file, std::move(document)));
+    Workbench::ForgetPartRuns(session.project); // scripts may have called it before it was there
     return GetLibraryPart(Workbench::LibraryIndexOf(parts.size() - 1), part);
 }
 

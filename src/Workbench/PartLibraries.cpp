@@ -18,6 +18,7 @@
 #include "Text/ShownText.hpp"
 #include "Text/Utf16Length.hpp"
 #include "Text/Utf8.hpp"
+#include "Workbench/Model/PartRuns.hpp"
 #include "Workbench/Parts/BuiltInSubtypes.hpp"
 #include "Workbench/Parts/PartXml.hpp"
 #include "Workbench/Project/ParameterRules.hpp"
@@ -316,6 +317,7 @@ void ReadLibraries() {
     }
     FitPlacedValues(session.project, taken);
     MarkMissing(session.project, taken);
+    ForgetPartRuns(session.project);
 }
 
 std::vector<Host::Guid> AncestryBelow(const Project& project, const Host::Guid& parent) {
