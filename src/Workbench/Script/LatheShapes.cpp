@@ -153,9 +153,8 @@ std::string SketchRevolvedPolygon(ShapeInput& input, ShapeSketch& sketch) {
     std::size_t at = 0;
     for (const ShapeRing& ring : profile.rings) {
         for (const std::size_t row : ring.edgeRows) {
-            ShapeInput surface = {};
-            surface.numbers = {RowNumber(input, profile, row, 3)};
-            lathe.loft.edges[at++].surface = TakeSurface(surface);
+            lathe.loft.edges[at++].surface =
+                SurfaceNumber(input, RowNumber(input, profile, row, 3));
         }
     }
     return AddTurned(input, sketch, lathe);

@@ -88,9 +88,7 @@ std::string AddOpenEdge(ModelBuild& build, const Numbers& numbers) {
         --*end;
     }
     constexpr std::size_t statusAt = 4;
-    constexpr double most = 1e9;
-    const double status = std::clamp(numbers[statusAt], -most, most);
-    edge.visible = !HasBits(static_cast<std::int32_t>(status), InvisibleEdge);
+    edge.visible = !HasBits(WholeArgument(numbers[statusAt]), InvisibleEdge);
     open.edges.push_back(edge);
     return {};
 }

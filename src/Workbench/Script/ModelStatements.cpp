@@ -29,6 +29,7 @@ std::string SketchStatement(const ModelBuild& build, const ShapeStatement& state
     input.curves = {build.look.segments, build.look.tolerance, build.look.radiusLowest,
                     build.look.radiusHighest};
     input.surface = build.look.surface;
+    input.ownSurfaces = build.model.surfaces.size();
     input.wire = build.look.detail == ModelLook::Detail::Wire;
     return statement.sketch(input, sketch);
 }

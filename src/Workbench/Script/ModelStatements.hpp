@@ -65,11 +65,13 @@ struct ModelBuild {
 bool IsModelShape(std::string_view keyword);
 
 /// Carries out one such statement. Returns an empty text, or why it can't be done, in Portuguese,
-/// without the place; then nothing was added.
+/// without the place; then nothing was added. Texts that name surfaces must have become numbers;
+/// these are as in the language: 0 the pen's colour, below 0 the surfaces that scripts define.
 std::string BuildModelShape(ModelBuild& build, std::string_view keyword,
                             const std::vector<ScriptValue>& arguments);
 
-/// Ends the low-level body that is open, if any, as BASE, BODY and the script's end do.
+/// Ends the low-level body that is open, if any, as BASE and the script's end do; wanted also
+/// before `cuts` changes, since a body is cut where it ends.
 void CloseOpenBody(ModelBuild& build);
 
 } // namespace Merivane::Workbench

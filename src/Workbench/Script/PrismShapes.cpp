@@ -62,9 +62,7 @@ void SetSideSurfaces(const ShapeInput& input, const ShapeProfile& profile, std::
     std::size_t at = 0;
     for (const ShapeRing& ring : profile.rings) {
         for (const std::size_t row : ring.edgeRows) {
-            ShapeInput side = {};
-            side.numbers = {RowNumber(input, profile, row, column)};
-            loft.edges[at++].surface = TakeSurface(side);
+            loft.edges[at++].surface = SurfaceNumber(input, RowNumber(input, profile, row, column));
         }
     }
 }

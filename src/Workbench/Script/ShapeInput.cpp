@@ -25,14 +25,30 @@ double TakeNumber(ShapeInput& input) {
     return input.at < input.numbers.size() ? input.numbers[input.at++] : 0.0;
 }
 
-std::int32_t TakeBits(ShapeInput& input) {
+std::int32_t WholeArgument(double number) {
     constexpr double most = 1e9;
-    return static_cast<std::int32_t>(std::clamp(std::round(TakeNumber(input)), -most, most));
+    return static_cast<std::int32_t>(std::clamp(std::round(number), -most, most));
+}
+
+std::int32_t TakeBits(ShapeInput& input) {
+    return WholeArgument(TakeNumber(input));
+}
+
+std::int32_t SurfaceNumber(const ShapeInput& input, double number) {
+    const std::int32_t whole = WholeArgument(number);
+    if (whole == 0) {
+        return -1;
+    }
+    if (whole > 0 && whole < Host::FirstScriptSurface) {
+        return whole;
+    }
+    const std::int32_t place = whole < 0 ? -whole - 1 : whole - Host::FirstScriptSurface;
+    return static_cast<std::size_t>(place) < input.ownSurfaces ? Host::FirstScriptSurface + place
+                                                               : -1;
 }
 
 std::int32_t TakeSurface(ShapeInput& input) {
-    const std::int32_t surface = TakeBits(input);
-    return surface > 0 ? surface : -1;
+    return SurfaceNumber(input, TakeNumber(input));
 }
 
 std::string TakeCount(ShapeInput& input, std::size_t least, std::size_t& count) {

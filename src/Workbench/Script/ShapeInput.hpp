@@ -19,7 +19,8 @@ struct ShapeInput {
     std::size_t at = 0;          ///< the next to be read
     CurveResolution curves;
     std::int32_t surface = -1;
-    bool wire = false; ///< MODEL WIRE: lines alone
+    std::size_t ownSurfaces = 0; ///< how many the scripts have defined
+    bool wire = false;           ///< MODEL WIRE: lines alone
 };
 
 /// Reads arguments as numbers; a text and what is not finite is refused.
@@ -28,10 +29,18 @@ std::string ReadNumbers(const std::vector<ScriptValue>& arguments, std::vector<d
 /// The next argument; 0 behind the last.
 double TakeNumber(ShapeInput& input);
 
+/// An argument as a whole number, a status or a mask.
+std::int32_t WholeArgument(double number);
+
 /// The next argument as a set of bits.
 std::int32_t TakeBits(ShapeInput& input);
 
-/// The next argument as a surface: an attribute's number, or -1 for 0, the colour of the pen.
+/// A surface that an argument names, as faces name it: an attribute's number; -1, -2... and from
+/// `Host::FirstScriptSurface` up the surfaces that the scripts define. -1, the colour of the pen,
+/// for 0 and for a surface of its own that there is not.
+std::int32_t SurfaceNumber(const ShapeInput& input, double number);
+
+/// The next argument as a surface.
 std::int32_t TakeSurface(ShapeInput& input);
 
 /// The next argument as a number of nodes, `least` or more.

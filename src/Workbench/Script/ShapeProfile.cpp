@@ -81,9 +81,7 @@ std::string ReadProfile(ShapeInput& input, const ShapeSketch& sketch, std::size_
         row.y = input.numbers[input.at + 1];
         row.status = WholeStatus;
         if (layout.status > 0) {
-            ShapeInput status = {};
-            status.numbers = {input.numbers[input.at + layout.status]};
-            row.status = TakeBits(status);
+            row.status = WholeArgument(input.numbers[input.at + layout.status]);
         }
         input.at += layout.columns;
     }

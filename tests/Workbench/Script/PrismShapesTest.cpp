@@ -111,10 +111,19 @@ TEST(SurfacePrism, HasThreeSurfaces) {
     EXPECT_NEAR(SurfaceArea(body, 1), 12.0, 1e-12);
     EXPECT_NEAR(SurfaceArea(body, 2), 12.0, 1e-12);
     EXPECT_NEAR(SurfaceArea(body, 3), 2.0 * 24.0, 1e-12);
-    const Host::Body pen = Built("CPRISM_", {0, 1000002, 3, 3, 2, 0, 0, 15, 1, 0, 15, 0, 1, 15});
-    EXPECT_EQ(FaceCount(pen, -1), 1);
-    EXPECT_EQ(FaceCount(pen, 1000002), 1);
-    EXPECT_EQ(FaceCount(pen, 3), 3);
+}
+
+TEST(SurfacePrism, TakesTheSurfacesOfTheScriptsToo) {
+    ModelBuild build = EmptyBuild();
+    build.model.surfaces.resize(2);
+    EXPECT_EQ(Build(build, "CPRISM_", {0, -2, 1000000, 3, 2, 0, 0, 15, 1, 0, 15, 0, 1, 15}), "");
+    const Host::Body body = OnlyBody(build);
+    EXPECT_EQ(FaceCount(body, -1), 1); // the colour of the pen
+    EXPECT_EQ(FaceCount(body, Host::FirstScriptSurface + 1), 1);
+    EXPECT_EQ(FaceCount(body, Host::FirstScriptSurface), 3);
+    build.model.bodies.clear();
+    EXPECT_EQ(Build(build, "CPRISM_", {-3, 1000002, -1e9, 3, 2, 0, 0, 15, 1, 0, 15, 0, 1, 15}), "");
+    EXPECT_EQ(FaceCount(OnlyBody(build), -1), 5); // what is not defined
 }
 
 TEST(SurfacePrism, IsNamedByItsOwnEnds) {
