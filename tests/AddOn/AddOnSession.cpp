@@ -20,6 +20,7 @@ void AddOnSession::Open(bool darkMode) {
     FreeData();
     Workbench::SessionOptions options;
     options.temporaryFolder = Text::WidePath(Folder());
+    options.documentsFolder = Text::WidePath(Folder() / "Documentos");
     options.darkMode = darkMode;
     Workbench::OpenSession(options);
 }

@@ -154,6 +154,61 @@ void ExpectItems(int dialog, std::size_t count, const std::vector<ItemUse>& uses
     }
 }
 
+TEST(DialogResources, HaveTheItemsOfThePhotometryOfAnObject) {
+    namespace Item = ResourceIds::AddIes;
+    ExpectItems(Item::Dialog, 48,
+                {
+                    {Item::Accept, ItemKind::Button, "OK"},
+                    {Item::Cancel, ItemKind::Button, "Cancelar"},
+                    {3, ItemKind::LeftText, "Objeto de origem:"},
+                    {Item::SourceName, ItemKind::LeftText, ""},
+                    {Item::ObjectInfo, ItemKind::LeftText, ""},
+                    {6, ItemKind::LeftText, "Arquivo IES:"},
+                    {Item::FileName, ItemKind::LeftText, ""},
+                    {Item::Identity, ItemKind::LeftText, ""},
+                    {Item::Flux, ItemKind::LeftText, ""},
+                    {Item::Table, ItemKind::LeftText, ""},
+                    {Item::FrontTitle, ItemKind::LeftText, ""},
+                    {Item::FrontView, ItemKind::UserItem, ""},
+                    {Item::SideTitle, ItemKind::LeftText, ""},
+                    {Item::SideView, ItemKind::UserItem, ""},
+                    {Item::PlanTitle, ItemKind::LeftText, ""},
+                    {Item::PlanView, ItemKind::UserItem, ""},
+                    {17, ItemKind::GroupBox, "Luminária"},
+                    {18, ItemKind::LeftText, "Código de catálogo:"},
+                    {Item::Catalog, ItemKind::TextEdit, ""},
+                    {20, ItemKind::LeftText, "Nome da luminária:"},
+                    {Item::Luminaire, ItemKind::TextEdit, ""},
+                    {22, ItemKind::LeftText, "Lâmpada:"},
+                    {Item::Lamp, ItemKind::TextEdit, ""},
+                    {24, ItemKind::LeftText, "Reprodução de cor:"},
+                    {Item::ColourRendering, ItemKind::RealEdit, ""},
+                    {26, ItemKind::LeftText, "Nome da peça nova:"},
+                    {Item::PartName, ItemKind::TextEdit, ""},
+                    {28, ItemKind::LeftText, "Fator de manutenção:"},
+                    {Item::MaintenanceFactor, ItemKind::RealEdit, ""},
+                    {30, ItemKind::GroupBox, "Centro fotométrico (cm)"},
+                    {31, ItemKind::LeftText, "X:"},
+                    {Item::CenterX, ItemKind::RealEdit, ""},
+                    {33, ItemKind::LeftText, "Y:"},
+                    {Item::CenterY, ItemKind::RealEdit, ""},
+                    {35, ItemKind::LeftText, "Z:"},
+                    {Item::CenterZ, ItemKind::RealEdit, ""},
+                    {Item::LowerFace, ItemKind::Button, "Face inferior"},
+                    {Item::Middle, ItemKind::Button, "Meio"},
+                    {Item::UpperFace, ItemKind::Button, "Face superior"},
+                    {Item::Hint, ItemKind::LeftText, ""},
+                    {41, ItemKind::GroupBox, "Direção da luz (graus)"},
+                    {42, ItemKind::LeftText, "Rotação do C0:"},
+                    {Item::C0Rotation, ItemKind::RealEdit, ""},
+                    {44, ItemKind::LeftText, "Inclinação:"},
+                    {Item::TiltAngle, ItemKind::RealEdit, ""},
+                    {46, ItemKind::LeftText, "Direção:"},
+                    {Item::TiltDirection, ItemKind::RealEdit, ""},
+                    {Item::Legend, ItemKind::LeftText, ""},
+                });
+}
+
 TEST(DialogResources, HaveTheItemsOfTheCalculation) {
     namespace Item = ResourceIds::Calculation;
     ExpectItems(Item::Dialog, 34,
