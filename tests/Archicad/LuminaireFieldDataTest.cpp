@@ -56,7 +56,8 @@ protected:
 /// Text as part files hold it: control characters, which a few header lines have, are blanks.
 std::string AsFilesHoldIt(std::string text) {
     for (std::size_t at = 0; at + 1 < text.size(); ++at) {
-        if (text[at] == '\xC2' && text[at + 1] >= '\x80' && text[at + 1] <= '\x9F') {
+        const auto second = static_cast<unsigned char>(text[at + 1]);
+        if (text[at] == '\xC2' && second >= 0x80 && second <= 0x9F) { // U+0080 to U+009F
             text.replace(at, 2, " ");
         }
     }
