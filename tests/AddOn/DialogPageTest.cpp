@@ -1,10 +1,13 @@
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <numbers>
 #include <string>
 #include <vector>
 
 #include "AddOn/AddOnSession.hpp"
 #include "AddOn/AddOnState.hpp"
+#include "AddOn/Commands/AddIesDialog.hpp"
 #include "AddOn/Commands/CalculationDialog.hpp"
 #include "AddOn/Commands/CheckRadianceInstallation.hpp"
 #include "AddOn/Commands/ConfigureEngine.hpp"
@@ -13,6 +16,8 @@
 #include "AddOn/Commands/ZoneRequirementDialog.hpp"
 #include "AddOn/Entry/ResourceIds.hpp"
 #include "Drawing/PngWriter.hpp"
+#include "Photometry/IesSamples.hpp"
+#include "Photometry/PhotometricQuantities.hpp"
 #include "Radiance/Installation.hpp"
 #include "Simulation/Run/InstallationReport.hpp"
 #include "Workbench/Interface/DialogPicture.hpp"
@@ -104,6 +109,64 @@ void HoldPage(const Workbench::Dialog& dialog) {
 }
 
 class DialogPage : public Tests::AddOnSession {};
+
+Archicad::PreviewEdge Edge(const Host::Coordinate3D& from, const Host::Coordinate3D& to) {
+    return {from, to};
+}
+
+/// A round spot in the ceiling, 20 cm wide and 12 cm high, under a flange of 24 cm.
+Archicad::ObjectPreview RoundSpot() {
+    struct Ring {
+        double radius;
+        double z;
+    };
+    constexpr int sides = 24;
+    Archicad::ObjectPreview object;
+    object.lowest = {-0.12, -0.12, -0.01};
+    object.highest = {0.12, 0.12, 0.12};
+    object.geometryRead = true;
+    for (const Ring& ring : {Ring{0.12, -0.01}, Ring{0.1, 0.0}, Ring{0.1, 0.12}}) {
+        for (int side = 0; side < sides; ++side) {
+            const auto corner = [&](int number) {
+                const double angle = 2.0 * std::numbers::pi * number / sides;
+                return Host::Coordinate3D{ring.radius * std::cos(angle),
+                                          ring.radius * std::sin(angle), ring.z};
+            };
+            object.edges.push_back(Edge(corner(side), corner(side + 1)));
+            if (ring.z > 0.0 && side % 6 == 0) {
+                Host::Coordinate3D below = corner(side);
+                below.z = 0.0;
+                object.edges.push_back(Edge(below, corner(side)));
+            }
+        }
+    }
+    return object;
+}
+
+TEST_F(DialogPage, ShowsThePhotometryOfAnObject) {
+    namespace Item = ResourceIds::AddIes;
+    Commands::PickedIes picked;
+    picked.fileName = "spot-orientavel-30.ies";
+    picked.baseName = "spot-orientavel-30";
+    picked.file =
+        Tests::MakeTable(Tests::Steps(0, 90, 5), Tests::Steps(0, 90, 15), [](double v, double h) {
+            const double width = 17.0 + 4.0 * std::cos(2.0 * h * Photometry::RadiansInADegree);
+            return 2400.0 * std::exp(-v * v / (2.0 * width * width));
+        });
+    picked.file.keywords = {{"MANUFAC", "Vantoro Luz"},
+                            {"LUMCAT", "VL-230"},
+                            {"LUMINAIRE", "Spot orientável 30°"},
+                            {"LAMP", "LED 12 W, 3000 K, IRC 90"}};
+    picked.file.width = picked.file.length = -0.16;
+    picked.file.inputWatts = 12.0;
+    Tests::PrepareAnswer(Item::Dialog,
+                         R"({"item": 45, "valor": 20}, {"item": 47, "valor": 30},
+                            {"item": 16, "apontar": [200, 60]})",
+                         Item::Cancel);
+    Commands::AddIesDialog("Spot redondo", picked, RoundSpot(), "Objeto, 24,0 x 24,0 x 13,0 cm")
+        .Invoke();
+    HoldPage(Tests::LastDialog());
+}
 
 TEST_F(DialogPage, ShowsTheEngine) {
     namespace Item = ResourceIds::Engine;

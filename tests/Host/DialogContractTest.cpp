@@ -172,7 +172,7 @@ TEST_F(DialogContract, RunsADialogInsideAnother) {
 
 TEST_F(DialogContract, BeginsAsTheResourceSays) {
     WhileOpen([](DialogId dialog) {
-        EXPECT_EQ(ItemCount(dialog), 14);
+        EXPECT_EQ(ItemCount(dialog), 15);
         std::int16_t width = 0;
         std::int16_t height = 0;
         GetClientSize(dialog, width, height);
@@ -212,9 +212,9 @@ TEST_F(DialogContract, ChangesSizePlaceAndState) {
         EXPECT_FALSE(IsItemEnabled(dialog, 8));
         SetItemIcon(dialog, 13, 10106);
         EXPECT_EQ(ItemIcon(dialog, 13), 10106);
-        EXPECT_EQ(AppendIcon(dialog, 10203), 15);
-        EXPECT_EQ(ItemIcon(dialog, 15), 10203);
-        EXPECT_EQ(ItemCount(dialog), 15);
+        EXPECT_EQ(AppendIcon(dialog, 10203), 16);
+        EXPECT_EQ(ItemIcon(dialog, 16), 10203);
+        EXPECT_EQ(ItemCount(dialog), 16);
     });
 }
 
