@@ -13,6 +13,7 @@
 #include "Program/CalculateForm.hpp"
 #include "Program/CatalogForm.hpp"
 #include "Program/CommandChoice.hpp"
+#include "Program/PartForm.hpp"
 #include "Program/Version.hpp"
 
 namespace Merivane::Program {
@@ -30,6 +31,8 @@ struct RawLine {
     CalculateArguments calculate;
     CheckCatalogArguments checkCatalog;
     ListCatalogArguments listCatalog;
+    ShowPartArguments showPart;
+    ExportPartArguments exportPart;
     std::string scale;
     std::string drawingScale;
     std::string floor;
@@ -254,6 +257,30 @@ CLI::App* AddListCatalog(CLI::App& catalog, RawLine& line) {
     return command;
 }
 
+CLI::App* AddPart(CLI::App& app) {
+    CLI::App* command = app.add_subcommand("peca", "Mostra ou exporta uma peça de biblioteca");
+    Prepare(*command);
+    command->require_subcommand(1);
+    return command;
+}
+
+CLI::App* AddShowPart(CLI::App& part, RawLine& line) {
+    CLI::App* command = part.add_subcommand("mostrar", "Mostra o que a peça contém");
+    command->group(CommandGroup);
+    Prepare(*command);
+    AddShowPartOptions(*command, line.showPart);
+    return command;
+}
+
+CLI::App* AddExportPart(CLI::App& part, RawLine& line) {
+    CLI::App* command =
+        part.add_subcommand("exportar", "Grava a peça nas formas que o conversor do Archicad lê");
+    command->group(CommandGroup);
+    Prepare(*command);
+    line.judgements.push_back(AddExportPartOptions(*command, line.exportPart));
+    return command;
+}
+
 std::string Before(const std::string& text, std::string_view mark) {
     return text.substr(0, text.find(mark));
 }
@@ -344,6 +371,9 @@ std::vector<Form> AddForms(CLI::App& app, RawLine& line) {
     CLI::App& catalog = *AddCatalog(app);
     forms.push_back({AddCheckCatalog(catalog, line), [&line] { return line.checkCatalog; }});
     forms.push_back({AddListCatalog(catalog, line), [&line] { return line.listCatalog; }});
+    CLI::App& part = *AddPart(app);
+    forms.push_back({AddShowPart(part, line), [&line] { return line.showPart; }});
+    forms.push_back({AddExportPart(part, line), [&line] { return line.exportPart; }});
     return forms;
 }
 

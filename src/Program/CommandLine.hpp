@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Program/CalculateArguments.hpp"
+#include "Program/PartArguments.hpp"
 
 namespace Merivane::Program {
 
@@ -96,10 +97,10 @@ struct ListCatalogArguments {
 };
 
 /// What was asked for on the command line; the first alternative when nothing is left to do.
-using Request =
-    std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments, TasksArguments,
-                 CheckRadianceArguments, ListCommandsArguments, RunArguments, DrawArguments,
-                 CalculateArguments, CheckCatalogArguments, ListCatalogArguments>;
+using Request = std::variant<std::monostate, SimulateArguments, IesArguments, UgrArguments,
+                             TasksArguments, CheckRadianceArguments, ListCommandsArguments,
+                             RunArguments, DrawArguments, CalculateArguments, CheckCatalogArguments,
+                             ListCatalogArguments, ShowPartArguments, ExportPartArguments>;
 
 /// How reading the command line ended.
 struct CommandLineResult {

@@ -17,5 +17,7 @@ int RunCommand(const RunArguments& arguments);
 int DrawCommand(const DrawArguments& arguments);
 int CheckCatalogCommand(const CheckCatalogArguments& arguments);
 int ListCatalogCommand(const ListCatalogArguments& arguments);
+int ShowPartCommand(const ShowPartArguments& arguments);
+int ExportPartCommand(const ExportPartArguments& arguments);
 
 } // namespace Merivane::Program

@@ -40,6 +40,10 @@ struct RunRequest {
     int operator()(const ListCatalogArguments& arguments) const {
         return ListCatalogCommand(arguments);
     }
+    int operator()(const ShowPartArguments& arguments) const { return ShowPartCommand(arguments); }
+    int operator()(const ExportPartArguments& arguments) const {
+        return ExportPartCommand(arguments);
+    }
 };
 
 int RunProgram(const std::vector<std::string>& arguments) {
