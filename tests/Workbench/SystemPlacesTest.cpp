@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Support/Places.hpp"
 #include "Support/Variable.hpp"
 #include "Text/NativePath.hpp"
 #include "Workbench/SystemPlaces.hpp"
@@ -54,6 +55,30 @@ TEST(SystemPlaces, PutsPreferencesIntoTheConfigurationFolder) {
         const Variable configuration("XDG_CONFIG_HOME", Value(c.configuration));
         const Variable home("HOME", Value(c.home));
         EXPECT_EQ(UserPreferencesFile(), c.file);
+    }
+}
+
+TEST(SystemPlaces, TakesTheDocumentsFolderFromTheListOfUserFolders) {
+    const Tests::TemporaryFolder folder;
+    struct Case {
+        const char* list; ///< null = there is none
+        std::wstring documents;
+    };
+    const Case cases[] = {
+        {nullptr, L"/h/Documents"},
+        {"# XDG_DOCUMENTS_DIR=\"/d\"\n", L"/h/Documents"},
+        {"XDG_DOCUMENTS_DIR=\"$HOME/Documentos\"\n", L"/h/Documentos"},
+        {"XDG_DOCUMENTS_DIR=\"/dados/textos/\"\n", L"/dados/textos"},
+        {"XDG_DOCUMENTS_DIR=\"$HOME/\"\n", L"/h/Documents"}, // switched off
+        {"XDG_DOCUMENTS_DIR=\"relativa\"\n", L"/h/Documents"},
+    };
+    const Variable configuration("XDG_CONFIG_HOME", folder.Path().string());
+    const Variable home("HOME", "/h/");
+    for (const Case& c : cases) {
+        if (c.list) {
+            Tests::WriteBytes(folder.Path() / "user-dirs.dirs", c.list);
+        }
+        EXPECT_EQ(UserDocumentsFolder(), c.documents);
     }
 }
 
