@@ -9,6 +9,8 @@ namespace Merivane::Workbench {
 
 namespace {
 
+constexpr std::size_t MostDefinitions = 100'000; ///< of styles, and of materials
+
 bool Pen(ScriptMachine& machine) {
     constexpr std::int32_t most = 255;
     std::int32_t pen = 0;
@@ -71,6 +73,9 @@ bool DefineStyle(ScriptMachine& machine) {
     if (style.anchor < 1 || style.anchor > lastAnchor) {
         return Fail(machine, "a âncora do estilo vai de 1 a 9");
     }
+    if (machine.styles.size() >= MostDefinitions) {
+        return Fail(machine, "estilos demais");
+    }
     constexpr std::int32_t faces = 7;
     style.face = style.face < 0 ? 0 : style.face & faces;
     machine.styles[machine.arguments[0].text] = style;
@@ -96,8 +101,7 @@ bool AddMaterial(ScriptMachine& machine, const std::string& name, Host::ModelSur
     surface.diffuse = std::clamp(surface.diffuse, 0.0, 1.0);
     surface.transparency = std::clamp(surface.transparency, 0.0, 1.0);
     std::vector<Host::ModelSurface>& surfaces = machine.model.model.surfaces;
-    constexpr std::size_t most = 100'000;
-    if (surfaces.size() >= most) {
+    if (surfaces.size() >= MostDefinitions) {
         return Fail(machine, "materiais demais");
     }
     machine.materials[name] = Host::FirstScriptSurface + static_cast<std::int32_t>(surfaces.size());
@@ -134,6 +138,9 @@ bool ChangeMaterial(ScriptMachine& machine, Host::ModelSurface& surface) {
 bool DefineMaterialOn(ScriptMachine& machine) {
     const std::string name = machine.arguments[0].text;
     const std::int32_t original = MaterialNumber(machine, machine.arguments[2]);
+    if (machine.materials.size() >= MostDefinitions) {
+        return Fail(machine, "materiais demais");
+    }
     if (original < Host::FirstScriptSurface) {
         machine.materials[name] = original;
         return CountText(machine, name.size());

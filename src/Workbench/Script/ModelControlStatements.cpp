@@ -125,6 +125,8 @@ bool AddCut(ScriptMachine& machine, const Coordinate3D& place, const Coordinate3
     if (machine.openCuts.size() >= most) {
         return Fail(machine, "cortes demais, um dentro do outro");
     }
+    // A body is cut where it ends: what is open keeps the planes it began under.
+    CloseOpenBody(machine.model);
     const double scale = (MirrorsSpace(frame) ? -1.0 : 1.0) / length;
     across = {across.x * scale, across.y * scale, across.z * scale};
     machine.model.cuts.push_back({FramePlace(frame, place.x, place.y, place.z), across});
@@ -179,6 +181,7 @@ bool CutEnd(ScriptMachine& machine) {
     if (machine.openCuts.empty()) {
         return Fail(machine, "CUTEND sem corte aberto");
     }
+    CloseOpenBody(machine.model);
     std::vector<CuttingPlane>& cuts = machine.model.cuts;
     cuts.resize(cuts.size() - std::min(cuts.size(), machine.openCuts.back()));
     machine.openCuts.pop_back();
@@ -205,6 +208,10 @@ bool BeginGroup(ScriptMachine& machine) {
     ScriptFrame inverse;
     if (!machine.openGroup.empty()) {
         return Fail(machine, "um grupo não começa dentro de outro");
+    }
+    constexpr std::size_t most = 10'000;
+    if (machine.groups.size() >= most) {
+        return Fail(machine, "grupos demais");
     }
     machine.openGroup = ShownValue(machine.arguments[0]);
     if (machine.openGroup.empty()) {

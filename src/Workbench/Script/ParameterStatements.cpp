@@ -9,8 +9,8 @@ namespace Merivane::Workbench {
 
 namespace {
 
-/// The parameter's name as the part spells it, with the index that may stand behind it; empty where
-/// the part has none of this name.
+/// The parameter's name as the part spells it, without an index that may stand behind it; empty
+/// where the part has none of this name.
 std::string SpelledName(const ScriptMachine& machine, const std::string& name) {
     const std::size_t bracket = std::min(name.find('['), name.size());
     const std::string upper = Text::ToUpper(Text::Trim(std::string_view(name).substr(0, bracket)));
@@ -19,10 +19,17 @@ std::string SpelledName(const ScriptMachine& machine, const std::string& name) {
     }
     for (const Host::LibraryParameter& parameter : machine.frame->part->parameters) {
         if (Text::ToUpper(parameter.name) == upper) {
-            return parameter.name + name.substr(bracket);
+            return parameter.name;
         }
     }
     return {};
+}
+
+/// Counts the search for so many names among the part's parameters.
+bool ChargeNames(ScriptMachine& machine, std::size_t names) {
+    constexpr std::size_t namesInAStatement = 4;
+    const std::size_t parameters = machine.frame->part->parameters.size();
+    return Charge(machine, names * parameters / namesInAStatement);
 }
 
 void AddName(std::vector<std::string>& names, const std::string& name) {
@@ -48,6 +55,9 @@ void AddChildren(const ScriptMachine& machine, std::vector<std::string>& names,
 bool ReadNames(ScriptMachine& machine, std::vector<std::string>& told) {
     const bool all = IsWord(machine.arguments[0], "ALL");
     std::vector<std::string> names;
+    if (!ChargeNames(machine, machine.argumentCount)) {
+        return false;
+    }
     for (std::size_t i = all ? 1 : 0; i < machine.argumentCount; ++i) {
         if (!machine.arguments[i].isText) {
             return Fail(machine, "os nomes dos parâmetros são textos");
@@ -63,7 +73,7 @@ bool ReadNames(ScriptMachine& machine, std::vector<std::string>& told) {
             told.push_back(parameter.name);
         }
     }
-    return Charge(machine, names.size() * told.size() / SmallText);
+    return true;
 }
 
 /// Only the part that is asked for tells rules: a macro's parameters are its own.
@@ -163,6 +173,13 @@ bool ReadValues(ScriptMachine& machine, ParameterValues& values) {
 }
 
 bool KeepValues(ScriptMachine& machine, ParameterValues values) {
+    constexpr std::size_t most = 10'000;
+    if (values.values.size() + values.ranges.size() > most) {
+        return Fail(machine, "valores demais para um parâmetro");
+    }
+    if (!ChargeNames(machine, 1)) {
+        return false;
+    }
     const std::string name = SpelledName(machine, machine.arguments[0].text);
     if (IsAsked(machine) && !name.empty()) {
         machine.rules.values[name] = std::move(values);
@@ -257,7 +274,7 @@ bool Parameters(ScriptMachine& machine) {
             machine.frame->programs->symbols.names[static_cast<std::size_t>(place.variable)];
         const std::string name = SpelledName(machine, named);
         ScriptVariable value;
-        if (!GivenValue(machine, i + 1, value)) {
+        if (!GivenValue(machine, i + 1, value) || !ChargeNames(machine, 1)) {
             return false;
         }
         if (name.empty() || !IsAsked(machine)) {

@@ -255,6 +255,10 @@ bool AddTableArguments(ScriptMachine& machine, std::int32_t variable) {
         SetCell(NextArgument(machine), from.value);
         return true;
     }
+    const std::size_t count = machine.argumentCount + from.table.values.size();
+    if (count > machine.environment->limits.values) {
+        return Fail(machine, "argumentos demais");
+    }
     for (const ScriptValue& value : from.table.values) {
         SetCell(NextArgument(machine), value);
     }

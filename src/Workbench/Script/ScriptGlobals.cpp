@@ -19,8 +19,10 @@ using Environment = ScriptEnvironment;
 constexpr GlobalRow Globals[] = {
     {"GLOB_SCALE", [](const Environment& e, ScriptKind) { return e.scale; }},
     {"GLOB_DRAWING_BGD_PEN", [](const Environment&, ScriptKind) { return 19.0; }},
-    {"GLOB_VIEW_TYPE", [](const Environment& e, ScriptKind) { return double(e.viewType); }},
-    {"GLOB_CONTEXT", [](const Environment& e, ScriptKind) { return double(e.context); }},
+    {"GLOB_VIEW_TYPE",
+     [](const Environment& e, ScriptKind) { return static_cast<double>(e.viewType); }},
+    {"GLOB_CONTEXT",
+     [](const Environment& e, ScriptKind) { return static_cast<double>(e.context); }},
     {"GLOB_SCRIPT_TYPE",
      [](const Environment&, ScriptKind kind) { return static_cast<double>(kind); }},
     {"GLOB_NORTH_DIR", [](const Environment& e, ScriptKind) { return e.northAngle; }},
@@ -31,7 +33,8 @@ constexpr GlobalRow Globals[] = {
     {"SYMB_POS_X", [](const Environment& e, ScriptKind) { return e.symbolPosition[0]; }},
     {"SYMB_POS_Y", [](const Environment& e, ScriptKind) { return e.symbolPosition[1]; }},
     {"SYMB_POS_Z", [](const Environment& e, ScriptKind) { return e.symbolPosition[2]; }},
-    {"SYMB_VIEW_PEN", [](const Environment& e, ScriptKind) { return double(e.symbolPen); }},
+    {"SYMB_VIEW_PEN",
+     [](const Environment& e, ScriptKind) { return static_cast<double>(e.symbolPen); }},
     {"SYMB_LINETYPE", [](const Environment&, ScriptKind) { return 1.0; }},
 };
 

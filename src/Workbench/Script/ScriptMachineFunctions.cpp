@@ -160,7 +160,14 @@ bool JoinGroups(ScriptMachine& machine, FunctionCall& call, bool both) {
             }
             joined.bodies.push_back(body);
         }
+        if (!CountShape(machine, 2 * group.wires.size())) {
+            return false;
+        }
         joined.wires.insert(joined.wires.end(), group.wires.begin(), group.wires.end());
+    }
+    constexpr std::size_t most = 10'000;
+    if (machine.groups.size() >= most) {
+        return Fail(machine, "grupos demais");
     }
     const std::string name = "#" + std::to_string(machine.groups.size());
     machine.groups[name] = std::move(joined);

@@ -44,7 +44,7 @@ bool HandOver(ScriptMachine& machine, const ScriptProgram& program, const Script
 }
 
 /// ALL: every parameter that both parts have, as the caller's variable stands now.
-void HandOverAll(const PartFrame& caller, PartFrame& macro) {
+bool HandOverAll(ScriptMachine& machine, const PartFrame& caller, PartFrame& macro) {
     for (const auto& [name, own] : macro.programs->parameters) {
         const ScriptVariable* value = FindParameter(caller, name);
         if (value == nullptr) {
@@ -55,7 +55,11 @@ void HandOverAll(const PartFrame& caller, PartFrame& macro) {
             variable == caller.programs->symbols.places.end()
                 ? *value
                 : VariableOf(caller.variables[static_cast<std::size_t>(variable->second)]);
+        if (!Charge(machine, macro.given[name].values.size() / 4)) {
+            return false;
+        }
     }
+    return true;
 }
 
 bool HandOverNamed(ScriptMachine& machine, const ScriptProgram& program,
@@ -101,6 +105,9 @@ bool RunMacro(ScriptMachine& machine, PartFrame& macro) {
     --machine.depth;
     if (ran) {
         EraseTransforms(machine.transforms, entries, machine.transforms.entries.size() - entries);
+        if (machine.kind == ScriptKind::Model) {
+            CloseOpenBody(machine.model);
+        }
         machine.openCuts = cuts;
         machine.model.cuts = planes;
         machine.look = look;
@@ -143,8 +150,8 @@ bool CallMacro(ScriptMachine& machine, const ScriptProgram& program,
                 macro.programs->parameters.size() + macro.programs->symbols.names.size())) {
         return false;
     }
-    if (instruction.flag) {
-        HandOverAll(*machine.frame, macro);
+    if (instruction.flag && !HandOverAll(machine, *machine.frame, macro)) {
+        return false;
     }
     return HandOverNamed(machine, program, instruction, macro) && RunMacro(machine, macro) &&
            TakeReturned(machine, program, instruction, macro);

@@ -234,6 +234,9 @@ bool SpreadBuffer(ScriptMachine& machine, const ScriptValue& count, bool keep) {
                                  std::to_string(BufferSize(frame)) + ")");
     }
     const auto taken = static_cast<std::size_t>(wanted);
+    if (machine.argumentCount + taken > machine.environment->limits.values) {
+        return Fail(machine, "argumentos demais");
+    }
     if (!Charge(machine, taken / 2)) {
         return false;
     }
