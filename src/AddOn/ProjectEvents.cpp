@@ -2,13 +2,14 @@
 
 #include <array>
 
+#include "Archicad/LibraryMigration.hpp"
 #include "Host/Menus.hpp"
 
 namespace Merivane {
 
 namespace {
 
-constexpr std::array<ProjectJob, 0> OwnJobs = {};
+constexpr std::array<ProjectJob, 1> OwnJobs = {Archicad::MigrateLibraryFolder};
 
 } // namespace
 
