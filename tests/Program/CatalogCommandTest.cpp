@@ -1,8 +1,11 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
+
+#include <signal.h>
 
 #include "Catalog/CatalogSamples.hpp"
 #include "Catalog/Json.hpp"
@@ -150,6 +153,31 @@ TEST_F(CatalogCommand, ChecksACatalogueOfTheWebAsItIsThere) {
                   "(download incompleto, ou o catalogo nao foi atualizado junto)\n"
                   "2 arquivo(s) em ordem, 2 problema(s).\n");
     EXPECT_TRUE(fs::is_empty(cache.Path())) << "a check must neither use nor fill the cache";
+}
+
+TEST_F(CatalogCommand, IsCancelledBetweenTwoProducts) {
+    std::vector<CatalogProduct> products(50, product);
+    for (std::size_t i = 0; i < products.size(); ++i) {
+        products[i].id += "-" + std::to_string(i);
+    }
+    Catalog::WriteSampleIndex(folder.Path(), products);
+    const TemporaryFolder cache;
+    const fs::path pidFile = cache.Path() / "pid";
+    const Conversation answer = AnswerByPath(Answers());
+    // The third request is about the first product: then Ctrl-C is pressed.
+    LoopbackServer server([&answer, &pidFile, requests = 0](ServerConnection& connection) mutable {
+        if (++requests == 3) {
+            ::kill(std::stoi(ReadBytes(pidFile)), SIGINT);
+        }
+        answer(connection);
+    });
+    ProgramCall call = WithCache(cache.Path());
+    call.prelude += " echo $$ >" + ShellWord(pidFile.string()) + ";";
+    const ProgramEnd run = RunVantoro({"catalogo", "verificar", server.Address("/")}, call);
+    EXPECT_EQ(run.status, 130);
+    EXPECT_EQ(run.output, "");
+    EXPECT_EQ(run.error, "vantoro: verificação cancelada.\n");
+    EXPECT_EQ(server.Heads().size(), 5U) << "the index and the first product's four files";
 }
 
 TEST_F(CatalogCommand, FailsWhereNobodyAnswers) {
