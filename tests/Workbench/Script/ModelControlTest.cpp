@@ -146,6 +146,7 @@ TEST(ModelControl, NamesWhatIsWrong) {
     expect("GROUP \"\"", "GROUP: o grupo não tem nome.");
     expect("MULX 0: GROUP \"a\"", "GROUP: as transformações não deixam volume ao grupo.");
     expect("LINE2 0, 0, 1, 1", "LINE2: só vale no script 2D.");
+    expect("FOR i = 1 TO 10001: GROUP STR (i, 1, 0): ENDGROUP: NEXT i", "GROUP: grupos demais.");
     expect("DEFINE MATERIAL \"a\" 9, 1, 1, 1", "DEFINE MATERIAL: o tipo de material 9 não existe.");
     expect("MUL 0, 0, 0: CUTPLANE", "CUTPLANE: o plano de corte não tem direção.");
 }

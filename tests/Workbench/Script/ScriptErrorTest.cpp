@@ -147,6 +147,12 @@ TEST(ScriptLimit, StopsWhatWouldNeverEnd) {
     ExpectLimit("DIM a[50000][50000]", "o script guarda valores demais em tabelas");
     ExpectLimit("DO\nADD2 0, 0\nWHILE 1", "transformações demais");
     ExpectLimit("DO\nMUL2 1000, 1000\nWHILE 1", "as transformações levam longe demais");
+    ExpectLimit("FOR i = 1 TO 100001\nDEFINE STYLE STR (i, 1, 0) \"Arial\", 3, 1, 0\nNEXT i",
+                "estilos demais");
+    ScriptLimits small;
+    small.values = 10;
+    ExpectLimit("DIM a[10]\nLINE2 a, a", "argumentos demais", small);
+    ExpectLimit("PUT 1, 2, 3, 4, 5, 6\nLINE2 USE (6), USE (6)", "argumentos demais", small);
     ScriptLimits few;
     few.shapes = 10;
     ExpectLimit("DO\nLINE2 0, 0, 1, 1\nWHILE 1", "o script desenha demais", few);
