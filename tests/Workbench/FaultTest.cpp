@@ -12,6 +12,7 @@
 #include "Host/Attributes.hpp"
 #include "Host/Dialog.hpp"
 #include "Host/Elements.hpp"
+#include "Host/FileChooser.hpp"
 #include "Host/Library.hpp"
 #include "Host/Menus.hpp"
 #include "Host/Model3D.hpp"
@@ -227,12 +228,15 @@ Calls SessionCalls() {
     return {
         {"GetOwnLocation", [] { return Host::GetOwnLocation(path); }},
         {"GetTemporaryFolder", [] { return Host::GetTemporaryFolder(path); }},
+        {"GetSpecialFolder",
+         [] { return Host::GetSpecialFolder(Host::SpecialFolder::UserDocuments, path); }},
         {"OpenProcessWindow", [] { return Host::OpenProcessWindow("Prova", 1); }},
         {"BeginProcessPhase", [] { return Host::BeginProcessPhase("Prova", 1); }},
         {"SetProcessValue", [] { return Host::SetProcessValue(1); }},
         {"CheckProcessCancelled", [] { return Host::CheckProcessCancelled(); }},
         {"CloseProcessWindow", [] { return Host::CloseProcessWindow(); }},
         {"OpenFolder", [] { return Host::OpenFolder(L"/"); }},
+        {"ChooseFile", [] { return Host::ChooseFile("Prova", {}, path); }},
         {"RegisterMenu", [] { return Host::RegisterMenu(32500, false); }},
         {"InstallMenuHandler", [] { return Host::InstallMenuHandler(32500, HandleMenu); }},
         {"CatchProjectEvents",
@@ -253,9 +257,43 @@ Calls SessionCalls() {
     };
 }
 
+Calls LibraryCalls() {
+    static std::vector<std::int32_t> indices;
+    static std::vector<Host::Library> libraries;
+    static std::vector<Host::PartSection> sections;
+    static std::int32_t embedded = 0;
+    static std::string bytes;
+    static Host::LibraryPart part;
+    static Host::Guid guid;
+    static const Host::NewLibraryPart Wanted;
+    return {
+        {"ListLibraryParts", [] { return Host::ListLibraryParts(indices); }},
+        {"GetLibraries", [] { return Host::GetLibraries(libraries, embedded); }},
+        {"AddLibrary", [] { return Host::AddLibrary(L"/"); }},
+        {"SetLibraries", [] { return Host::SetLibraries({}); }},
+        {"ListSections", [] { return Host::ListSections(1, sections); }},
+        {"ReadSection",
+         [] {
+             return Host::ReadSection(1, {"3DSC", 0}, bytes);
+         }},
+        {"CreatePart", [] { return Host::CreatePart(Wanted); }},
+        {"NewSection",
+         [] {
+             return Host::NewSection({"3DSC", 0});
+         }},
+        {"WriteSection", [] { return Host::WriteSection("x"); }},
+        {"EndSection", [] { return Host::EndSection(); }},
+        {"MakeParameterSection",
+         [] { return Host::MakeParameterSection(Wanted, 1.0, 1.0, {}, bytes); }},
+        {"SavePart", [] { return Host::SavePart(part); }},
+        {"GetBuiltInPart", [] { return Host::GetBuiltInPart(118, guid); }},
+    };
+}
+
 Calls AllCalls() {
     Calls all = ElementCalls();
-    for (const Calls& calls : {AttributeCalls(), WindowCalls(), StoreCalls(), SessionCalls()}) {
+    for (const Calls& calls :
+         {AttributeCalls(), WindowCalls(), StoreCalls(), LibraryCalls(), SessionCalls()}) {
         all.insert(calls.begin(), calls.end());
     }
     return all;

@@ -37,6 +37,7 @@ std::string FirstDifference(const Project& a, const Project& b) {
     COMPARE(window)
     COMPARE(activeFloor)
     COMPARE(planScale)
+    COMPARE(lightingSymbols)
     COMPARE(lastStamp)
 #undef COMPARE
     for (std::size_t i = 0; i < std::min(a.parts.size(), b.parts.size()); ++i) {
@@ -122,7 +123,11 @@ TEST(ProjectFile, AnElementStoresOnlyValuesThatDifferFromItsParts) {
     table.isArray = true;
     table.dim1 = 2;
     table.numbers = {1.0, 2.5};
-    project.parts = {{"Plafon", {{1}}, true, 1.0, 1.0, {flux, table}, {}, {}}};
+    ProjectPart& part = project.parts.emplace_back();
+    part.name = "Plafon";
+    part.mainGuid = {{1}};
+    part.isLamp = true;
+    part.parameters = {flux, table};
     ProjectElement lamp;
     lamp.element.header = {Host::ElementType::Lamp, {{2}}, 0, {1}, 0, {}, false};
     lamp.element.data = Host::ObjectData{1, {}, 0.0, 0.0, false, 1.0, 1.0};
