@@ -227,6 +227,7 @@ int CalculateCommand(const CalculateArguments& arguments) {
     const bool done = OpenInput(run) && PrepareOutput(run) && ChooseRunOptions(run) &&
                       Calculate(run) && Deliver(run);
     FreeData();
+    TellScriptComplaints();
     if (!done) {
         return End(run);
     }

@@ -205,6 +205,8 @@ CLI::App* AddDraw(CLI::App& app, RawLine& line) {
         ->type_name("N");
     command->add_flag("--axonometria", arguments.axonometry,
                       "Só o modelo em axonometria; com --pavimento, só o desse pavimento");
+    command->add_flag("--simbolos", arguments.symbols,
+                      "Nas plantas, o símbolo técnico de cada luminária em vez da sua forma");
     command
         ->add_option("--saida", arguments.outputFolder,
                      "Pasta dos desenhos, em SVG, PDF e PNG (a atual)")

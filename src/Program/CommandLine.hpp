@@ -78,6 +78,7 @@ struct DrawArguments {
     std::string window;       ///< name or reference of a window; empty = see below
     std::optional<int> floor; ///< the plan of this floor; with `axonometry`, the view of it
     bool axonometry = false;  ///< the view of the model; without any of the three, all windows
+    bool symbols = false;     ///< luminaires as symbols, also where the project shows their shapes
     std::string outputFolder = "."; ///< of the drawings
     double scale = 0.0;             ///< denominator; 0 = each window's own
 };

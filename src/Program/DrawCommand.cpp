@@ -4,13 +4,14 @@
 #include <vector>
 
 #include "Program/Commands.hpp"
+#include "Program/HostedRun.hpp"
 #include "Program/Message.hpp"
 #include "Program/OutputFiles.hpp"
 #include "Program/WindowPictures.hpp"
 #include "Text/FoldAccents.hpp"
 #include "Text/Utf8.hpp"
 #include "Workbench/Display/WindowDrawing.hpp"
-#include "Workbench/Project/ProjectFile.hpp"
+#include "Workbench/Session.hpp"
 
 namespace Merivane::Program {
 
@@ -90,21 +91,29 @@ bool DrawWanted(const Project& project, const DrawArguments& arguments,
     return true;
 }
 
+bool DrawOpenProject(const DrawArguments& arguments, std::vector<WindowPicture>& drawings,
+                     std::string& error) {
+    Project& project = Workbench::CurrentSession().project;
+    project.lightingSymbols = project.lightingSymbols || arguments.symbols;
+    return DrawWanted(project, arguments, drawings, error);
+}
+
 } // namespace
 
 int DrawCommand(const DrawArguments& arguments) {
     std::string error;
-    Project project;
     std::vector<WindowPicture> drawings;
     std::vector<OutputFile> files;
     const std::wstring folder = Text::Widen(arguments.outputFolder);
-    if (!Workbench::ReadProject(Text::Widen(arguments.projectFile), project, error) ||
-        !DrawWanted(project, arguments, drawings, error) ||
+    PrepareHost({});
+    if (!OpenProjectFile(arguments.projectFile, error) ||
+        !DrawOpenProject(arguments, drawings, error) ||
         !WritePictures(drawings, {}, files, error) || !PrepareOutputFolder(folder, error) ||
         !WriteOutputFiles(folder, files, error)) {
         TellError(error);
         return StatusFailed;
     }
+    TellScriptComplaints();
     for (const OutputFile& file : files) {
         TellLine("Gravado: " +
                  (std::filesystem::path(arguments.outputFolder) / file.name).string());

@@ -12,6 +12,7 @@
 #include "Program/Progress.hpp"
 #include "Text/FileBytes.hpp"
 #include "Text/Utf8.hpp"
+#include "Workbench/Model/PartRuns.hpp"
 #include "Workbench/Project/ProjectFile.hpp"
 #include "Workbench/ProjectSaving.hpp"
 #include "Workbench/Session.hpp"
@@ -101,6 +102,12 @@ bool OpenProjectFile(const std::string& file, std::string& error) {
     }
     Workbench::OpenProject(std::move(project), path);
     return true;
+}
+
+void TellScriptComplaints() {
+    for (const std::string& sentence : Workbench::ScriptComplaints(CurrentSession().project)) {
+        TellError(sentence);
+    }
 }
 
 bool SaveProjectFile(const std::string& file, bool silent, std::string& error) {

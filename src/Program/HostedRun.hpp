@@ -29,6 +29,10 @@ bool LoadAddOn(std::string& error);
 /// Portuguese sentence that names the file.
 bool OpenProjectFile(const std::string& file, std::string& error);
 
+/// Tells on standard error why scripts of library parts stopped so far, one sentence each; what they
+/// had drawn until then is shown.
+void TellScriptComplaints();
+
 /// Writes the open project whole or not at all, and tells so unless `silent`. Returns false with
 /// one Portuguese sentence that names the file, which is then as it was.
 bool SaveProjectFile(const std::string& file, bool silent, std::string& error);

@@ -91,6 +91,7 @@ int RunCommand(const RunArguments& arguments) {
     }
     const bool done = RunLoaded(arguments, error);
     FreeData();
+    TellScriptComplaints();
     if (Interrupted()) {
         TellError("comando cancelado");
         return StatusCancelled;

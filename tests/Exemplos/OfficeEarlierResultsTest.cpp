@@ -32,7 +32,7 @@ protected:
         std::string error;
         EXPECT_TRUE(Workbench::ReadProject(file, project, error)) << error;
         Workbench::OpenSession({});
-        Workbench::OpenProject(std::move(project));
+        Workbench::OpenProject(std::move(project), file);
     }
     ~OfficeEarlierResults() override { Workbench::OpenSession({}); }
 

@@ -47,7 +47,7 @@ void OpenOffice(std::int16_t activeFloor = 0) {
     Project project = ReadOffice();
     project.activeFloor = activeFloor;
     Workbench::OpenSession({});
-    Workbench::OpenProject(std::move(project));
+    Workbench::OpenProject(std::move(project), Text::WidePath(OfficeFile()));
 }
 
 std::map<ElementType, int> CountTypes(const Project& project) {
@@ -345,7 +345,8 @@ TEST(OfficeProject, LeavesEarlierResultsAndHiddenLayersOutOfTheModel) {
 }
 
 TEST(OfficeProject, IsDrawnWhole) {
-    const Project project = ReadOffice();
+    OpenOffice();
+    const Project project = Workbench::CurrentSession().project;
     std::vector<Drawing::DisplayList> lists = {Workbench::DrawPlan(project, 0),
                                                Workbench::DrawPlan(project, 1),
                                                Workbench::DrawAxonometry(project)};

@@ -22,12 +22,14 @@ std::filesystem::path Samples() {
     return SourceFolder() / "exemplos";
 }
 
-/// Bytes of the sample files of a folder by their path in it: all ".ies", ".json" and ".vantoro".
+/// Bytes of the sample files of a folder by their path in it: all ".ies", ".json", ".vantoro" and
+/// ".gsm".
 std::map<std::string, std::string> SampleFiles(const std::filesystem::path& folder) {
     std::map<std::string, std::string> files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
         const std::string extension = entry.path().extension().string();
-        if (extension == ".ies" || extension == ".json" || extension == ".vantoro") {
+        if (extension == ".ies" || extension == ".json" || extension == ".vantoro" ||
+            extension == ".gsm") {
             const std::string name = entry.path().lexically_relative(folder).generic_string();
             files[name] = ReadBytes(entry.path());
         }
@@ -42,7 +44,7 @@ TEST(SampleFiles, AreMadeAgainByteForByte) {
     ASSERT_EQ(std::system(command.c_str()), 0);
     const auto made = SampleFiles(folder.Path());
     const auto committed = SampleFiles(Samples());
-    EXPECT_EQ(made.size(), 18U);
+    EXPECT_EQ(made.size(), 28U);
     for (const auto& [name, bytes] : made) {
         EXPECT_EQ(committed.count(name), 1U) << name;
     }

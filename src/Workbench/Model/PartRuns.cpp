@@ -160,12 +160,14 @@ const ScriptPart* FindMacro(const Project& project, std::string_view name) {
     return nullptr;
 }
 
-// The one model view of the embedded host asks for lighting symbols.
-std::optional<ScriptValue> LibraryGlobal(std::string_view object, std::string_view variable) {
+// How the project's plans show luminaires: the host keeps that in one object for all scripts.
+std::optional<ScriptValue> LibraryGlobal(const Project& project, std::string_view object,
+                                         std::string_view variable) {
     constexpr double LightingSymbol = 1.0;
+    constexpr double OwnShape = 3.0;
     if (Text::ToUpper(object) == "OBJECTS_MVOSETTINGS" &&
         Text::ToUpper(variable) == "IFIXTURESYMBOL") {
-        return NumberValue(LightingSymbol);
+        return NumberValue(project.lightingSymbols ? LightingSymbol : OwnShape);
     }
     return std::nullopt;
 }
@@ -208,7 +210,9 @@ ScriptEnvironment EnvironmentOf(const Project& project, const ProjectElement& el
         return FindAttribute(project, kind, name);
     };
     environment.findMacro = [&project](std::string_view name) { return FindMacro(project, name); };
-    environment.libraryGlobal = LibraryGlobal;
+    environment.libraryGlobal = [&project](std::string_view object, std::string_view variable) {
+        return LibraryGlobal(project, object, variable);
+    };
     AnswerRequests(project, header, environment);
     return environment;
 }
@@ -276,6 +280,7 @@ const PlanSymbolDrawing& SymbolOfObject(const Project& project, const ProjectPar
     PartRuns& runs = RunsOf(project);
     RunKey key = KeyOf(project, part, element);
     key.Add(scale);
+    key.Add(project.lightingSymbols ? 1.0 : 0.0);
     const auto [place, isNew] = runs.symbols.try_emplace(std::move(key.bytes));
     PlanSymbolDrawing& symbol = place->second;
     if (isNew) {

@@ -227,6 +227,7 @@ void AllKeys(auto& fields, Is<Project> auto& project) {
     WindowKey(fields, "janelaAtual", project, project.window, false);
     fields.May("pavimentoAtivo", project.activeFloor, 0, Floors);
     fields.May("escalaDaPlanta", project.planScale, 100.0, Scales);
+    fields.May("simbolosDeIluminacao", project.lightingSymbols, false);
     fields.May("ultimoCarimbo", project.lastStamp, 0U, NumberRange{0.0, 9007199254740991.0});
 }
 

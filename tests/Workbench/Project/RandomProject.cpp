@@ -396,6 +396,7 @@ void Maker::MakeRest() {
     project.window = Coin() ? Host::Window() : project.databases[Below(4)].window;
     project.activeFloor = project.stories[Below(4)].index;
     project.planScale = 1.0 + Size();
+    project.lightingSymbols = Coin();
 }
 
 Project Maker::Make() {
