@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <functional>
+#include <unordered_map>
 #include <utility>
 
 #include "Workbench/Script/FaceTurning.hpp"
@@ -34,33 +35,40 @@ std::string Missing(const char* what, double number) {
            " não existe";
 }
 
-/// Vertices and edges stay when a body ends.
+/// Vertices and edges stay when a body ends; it takes those that its faces need, so that a script
+/// can end many.
 std::string EndBody(ModelBuild& build) {
     ShapeSketch sketch = StartSketch(build);
-    sketch.body.vertices = build.open.vertices;
-    std::vector<bool> used(build.open.edges.size());
-    for (const OpenBody::Face& face : build.open.faces) {
+    const OpenBody& open = build.open;
+    std::unordered_map<std::int32_t, std::int32_t> taken;
+    const auto take = [&](std::int32_t vertex) {
+        const auto [found, isNew] = taken.try_emplace(vertex, 0);
+        if (isNew) {
+            found->second = AddVertex(sketch, open.vertices[static_cast<std::size_t>(vertex)]);
+        }
+        return found->second;
+    };
+    for (const OpenBody::Face& face : open.faces) {
         std::vector<std::vector<std::int32_t>> contours(1);
         for (const std::int32_t number : face.edges) {
             if (number == 0) {
                 contours.emplace_back();
                 continue;
             }
-            const auto at = static_cast<std::size_t>(std::abs(number)) - 1;
-            used[at] = true;
-            const OpenBody::Edge& edge = build.open.edges[at];
-            contours.back().push_back(number > 0 ? edge.from : edge.to);
+            const OpenBody::Edge& edge = open.edges[static_cast<std::size_t>(std::abs(number)) - 1];
+            contours.back().push_back(take(number > 0 ? edge.from : edge.to));
         }
         AddFace(sketch, std::move(contours), face.surface);
     }
-    for (std::size_t i = 0; i < used.size(); ++i) {
-        const OpenBody::Edge& edge = build.open.edges[i];
-        if (!used[i] && edge.visible && build.open.faces.empty()) {
-            sketch.wires.push_back({sketch.body.vertices[static_cast<std::size_t>(edge.from)],
-                                    sketch.body.vertices[static_cast<std::size_t>(edge.to)]});
+    for (std::size_t i = open.endedEdges; open.faces.empty() && i < open.edges.size(); ++i) {
+        const OpenBody::Edge& edge = open.edges[i];
+        if (edge.visible) {
+            sketch.wires.push_back({open.vertices[static_cast<std::size_t>(edge.from)],
+                                    open.vertices[static_cast<std::size_t>(edge.to)]});
         }
     }
     build.open.faces.clear();
+    build.open.endedEdges = open.edges.size();
     AgreeOnOutside(sketch.body);
     return AddToModel(build, sketch);
 }

@@ -39,7 +39,8 @@ struct OpenBody {
     std::size_t vectorCount = 0;
     std::vector<Edge> edges;
     std::vector<Face> faces;
-    std::size_t sideCount = 0; ///< of all faces since BASE
+    std::size_t sideCount = 0;  ///< of all faces since BASE
+    std::size_t endedEdges = 0; ///< that stood when BODY ended a body: they are no lines any more
 };
 
 /// A plane that CUTPLANE set, in the part's frame; what lies on its positive side goes.

@@ -58,6 +58,10 @@ TEST(LowLevelBody, IsACubeOfVerticesEdgesAndPolygons) {
     EXPECT_EQ(FaceCount(body, 14), 6);
     EXPECT_EQ(build.shapeCount, 6U);
     EXPECT_EQ(build.vertexCount, 8U);
+    // Nothing of it is left for the script's end.
+    CloseOpenBody(build);
+    EXPECT_EQ(build.model.bodies.size(), 1U);
+    EXPECT_TRUE(build.model.wires.empty());
 }
 
 TEST(LowLevelBody, LooksOutsideHoweverItsPolygonsAreWalked) {
@@ -154,6 +158,7 @@ TEST(LowLevelBody, IsLinesWithoutPolygons) {
     EXPECT_EQ(Build(build, "VERT", {1, 0, 0}), "");
     EXPECT_EQ(Build(build, "EDGE", {1, 2, 0, 0, 0}), "");
     EXPECT_EQ(Build(build, "EDGE", {2, 1, 0, 0, 1}), ""); // invisible
+    EXPECT_EQ(Build(build, "BODY", {-1}), "");
     CloseOpenBody(build);
     EXPECT_EQ(build.model.wires, (std::vector<PartWire>{{{10, 0, 0}, {11, 0, 0}, 9}}));
 }
