@@ -40,6 +40,7 @@ struct Painter {
 
     std::vector<Point> OnCanvas(const std::vector<Host::ItemPoint>& points) const {
         std::vector<Point> moved;
+        moved.reserve(points.size());
         for (const Host::ItemPoint& point : points) {
             moved.push_back(OnCanvas(point));
         }
