@@ -139,7 +139,7 @@ std::string AddOpenFace(ModelBuild& build, const Numbers& numbers) {
         return "o número de arestas deve ser inteiro e pelo menos 3";
     }
     if (count > static_cast<double>(numbers.size() - head)) {
-        return "pede pelo menos " + std::to_string(head + std::llround(std::min(count, 1e9))) +
+        return "pede pelo menos " + std::to_string(WholeArgument(count) + static_cast<int>(head)) +
                " argumentos e tem " + std::to_string(numbers.size());
     }
     const auto sides = static_cast<std::size_t>(count);
