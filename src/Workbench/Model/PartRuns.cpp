@@ -52,14 +52,6 @@ ScriptPart PreparePart(const ProjectPart& part, const ProjectElement* element = 
         prepared.sizeB = object.sizeB;
         prepared.parameters = MergeParameters(part.parameters, element->memo.parameters);
     }
-    for (Host::LibraryParameter& parameter : prepared.parameters) {
-        if (parameter.type == Host::ParameterType::Angle) { // radians in the project
-            parameter.number *= DegreesPerRadian;
-            for (double& number : parameter.numbers) {
-                number *= DegreesPerRadian;
-            }
-        }
-    }
     return prepared;
 }
 
@@ -210,8 +202,8 @@ ScriptEnvironment EnvironmentOf(const Project& project, const ProjectElement& el
         return FindAttribute(project, kind, name);
     };
     environment.findMacro = [&project](std::string_view name) { return FindMacro(project, name); };
-    environment.libraryGlobal = [&project](std::string_view object, std::string_view variable) {
-        return LibraryGlobal(project, object, variable);
+    environment.libraryGlobal = [&project](std::string_view owner, std::string_view variable) {
+        return LibraryGlobal(project, owner, variable);
     };
     AnswerRequests(project, header, environment);
     return environment;
