@@ -318,6 +318,7 @@ constexpr StatementEntry QuietEntries[] = {
     {"CLOSEADDONSCOPE", 0, -1, nullptr, Skipped, All, "accepted"},
     {"OUTPUT", 0, -1, nullptr, Skipped, All, "accepted: there are no files"},
     {"CLOSE", 0, -1, nullptr, Skipped, All, "accepted: there are no files"},
+    {"PARAGRAPH", 1, -1, nullptr, Skipped, All, "accepted up to ENDPARAGRAPH, not drawn"},
     {"TEXTBLOCK", 0, -1, nullptr, Skipped, All, "accepted"},
     {"TEXTBLOCK_", 0, -1, nullptr, Skipped, All, "accepted"},
     {"RICHTEXT", 0, -1, nullptr, Skipped, All, "accepted, not drawn"},

@@ -108,6 +108,18 @@ void SkipRest(ScriptCompiler& compiler) {
     }
 }
 
+/// A paragraph's lines are texts and attributes, no statements of the script.
+bool SkipParagraph(ScriptCompiler& compiler) {
+    while (!AtWord(compiler, "ENDPARAGRAPH")) {
+        if (Now(compiler).kind == TokenKind::EndOfScript) {
+            return Refuse(compiler, "falta ENDPARAGRAPH");
+        }
+        ++compiler.place;
+    }
+    ++compiler.place;
+    return true;
+}
+
 bool ParseLightList(ScriptCompiler& compiler) {
     do {
         if (AtWord(compiler, "ADDITIONAL_DATA")) {
@@ -289,6 +301,9 @@ bool ParseShape(ScriptCompiler& compiler, StatementShape shape) {
     case StatementShape::ParameterValues:
         return ParseParameterValues(compiler);
     case StatementShape::Skipped:
+        if (compiler.statement == "PARAGRAPH") {
+            return SkipParagraph(compiler);
+        }
         SkipRest(compiler);
         return true;
     }

@@ -82,6 +82,7 @@ TEST(ScriptError, NamesPartScriptLineStatementAndReason) {
         {"LIN_ 0, 0, 0, 1, 1, 1", "1, instrução LIN_: só vale no script 3D."},
         {"CALL \"nada\"", "1, instrução CALL: a macro \"nada\" não está nas bibliotecas."},
         {"x = IND (NADA, \"a\")", "1, instrução x: IND não conhece \"NADA\"."},
+        {"PARAGRAPH \"p\" 1\n'a'", "2, instrução PARAGRAPH: falta ENDPARAGRAPH."},
         {"MODEL ON", "1, instrução MODEL: MODEL leva WIRE, SURFACE ou SOLID."},
     };
     for (const Row& row : rows) {
@@ -118,6 +119,10 @@ TEST(ScriptError, LeavesWhatWasDrawnBeforeIt) {
 
 TEST(ScriptError, IsNoneWhereAnUnknownStatementIsNeverReached) {
     EXPECT_EQ(Tests::PlanError(Tests::PlanPart("IF 0 THEN VOAR 1 2 3")), "");
+    EXPECT_EQ(Tests::PlanError(Tests::PlanPart("PARAGRAPH \"p\" 1, 0, 0, 0, 1\nPEN 900\n'texto'\n"
+                                               "ENDPARAGRAPH\nTEXTBLOCK \"t\" 0, 1, 0, 1, 1, 0, "
+                                               "\"p\"\nRICHTEXT2 0, 0, \"t\"")),
+              "");
     EXPECT_EQ(Tests::PlanError(Tests::PlanPart("UI_DIALOG \"x\", 1\nPRINT x")), "");
 }
 
