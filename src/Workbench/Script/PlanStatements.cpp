@@ -21,7 +21,7 @@ bool Line(ScriptMachine& machine) {
     return AllNumbers(machine) &&
            PlanPlace(machine, PlanNumber(machine, 0), PlanNumber(machine, 1), line.begin) &&
            PlanPlace(machine, PlanNumber(machine, 2), PlanNumber(machine, 3), line.end) &&
-           AddPlanShape(machine, std::move(line), 2);
+           AddPlanShape(machine, line, 2);
 }
 
 /// A broken line or an outline without fill.
@@ -85,7 +85,7 @@ bool AddArc(ScriptMachine& machine, const ScriptArc& from) {
         arc.end = frame.mirrored ? frame.angle - from.begin : from.end + frame.angle;
     }
     return PlanPlace(machine, from.center.x, from.center.y, arc.center) &&
-           AddPlanShape(machine, std::move(arc), 1);
+           AddPlanShape(machine, arc, 1);
 }
 
 bool ReadCircle(ScriptMachine& machine, ScriptArc& arc) {
@@ -192,8 +192,7 @@ bool Fragment(ScriptMachine& machine) {
     fragment.scaleX = frame.scaleX;
     fragment.scaleY = frame.mirrored ? -frame.scaleY : frame.scaleY;
     fragment.rotation = frame.angle;
-    return PlanPlace(machine, 0.0, 0.0, fragment.position) &&
-           AddPlanShape(machine, std::move(fragment), 1);
+    return PlanPlace(machine, 0.0, 0.0, fragment.position) && AddPlanShape(machine, fragment, 1);
 }
 
 bool Projection(ScriptMachine& machine) {
@@ -209,7 +208,7 @@ bool Projection(ScriptMachine& machine) {
     projection.rotation = frame.angle;
     projection.look = machine.look.plan;
     return PlanPlace(machine, 0.0, 0.0, projection.position) &&
-           AddPlanShape(machine, std::move(projection), 1);
+           AddPlanShape(machine, projection, 1);
 }
 
 constexpr StatementShape Values = StatementShape::Values;
