@@ -71,8 +71,8 @@ JsonValue WriteFiles(const CatalogProduct& product) {
     return files;
 }
 
-/// `name` as the name of a file on every system: what none of them takes becomes "-".
-std::string FileNameOf(std::string_view name) {
+/// `name` with "-" in place of each character that some system refuses in file names.
+std::string WithoutForbidden(std::string_view name) {
     constexpr std::string_view Forbidden = "<>:\"/\\|?*";
     constexpr unsigned char FirstPrintable = 32;
     std::string clean(name);
@@ -82,10 +82,13 @@ std::string FileNameOf(std::string_view name) {
             c = '-';
         }
     }
-    while (clean.ends_with('.') || clean.ends_with(' ')) {
-        clean.pop_back();
-    }
     return clean;
+}
+
+/// `name` without the points and blanks at its end, which Windows drops.
+std::string WithoutTail(std::string name) {
+    name.erase(name.find_last_not_of(". ") + 1);
+    return name;
 }
 
 } // namespace
@@ -171,10 +174,10 @@ std::string CleanBlockName(std::string_view text) {
 }
 
 std::string LibraryFileName(const CatalogProduct& product) {
-    std::string name = FileNameOf(CleanBlockName(product.block));
+    std::string name = WithoutTail(WithoutForbidden(CleanBlockName(product.block)));
     if (name.empty()) {
-        // An address of letters, digits, "-", "." and "_" stays as it is; another can't lead away.
-        name = FileNameOf(ProductLeafName(product.id));
+        // A valid address stays as it is, points at its end too; another can't lead away.
+        name = WithoutForbidden(ProductLeafName(product.id));
     }
     return name + ".gsm";
 }

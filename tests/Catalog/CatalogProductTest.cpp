@@ -314,6 +314,8 @@ TEST(CatalogProduct, ItsPartHasAFileNameThatEverySystemTakes) {
         {"", "luz/ab-12", "ab-12.gsm"},
         {" . . ", "luz/ab-12", "ab-12.gsm"},
         {"", "ab-12", "ab-12.gsm"},
+        {"", "luz/ab.", "ab..gsm"},               // of an address each byte counts
+        {"...", "luz/...", "....gsm"},            // a block of points names nothing
         {"", "luz/../../fora", "..-..-fora.gsm"}, // no address may lead out of the library
     };
     for (const Case& c : cases) {
