@@ -159,6 +159,9 @@ TEST(CatalogAddress, ResolvesAFileInAFolder) {
         {"/cat/", "catalogo.json", "/cat/catalogo.json"},
         {"/cat", "//pacotes/b c/d.ies", "/cat/pacotes/b c/d.ies"},
         {"cat", "a", "cat/a"},
+        {"cat\\", "a\\b", "cat\\/a\\b"}, // a back slash is a character like any other here
+        {"/cat", "a b%?#.ies", "/cat/a b%?#.ies"},
+        {"/", "catalogo.json", "/catalogo.json"},
     };
     for (const Resolved& c : cases) {
         EXPECT_EQ(ResolveInCatalog(c.base, c.path), c.expected) << c.path;

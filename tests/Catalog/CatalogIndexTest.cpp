@@ -135,6 +135,13 @@ TEST(CatalogIndex, HasOneOrderWhateverTheOrderOfItsProducts) {
     EXPECT_EQ(JsonWrite(BuildCatalogIndex(index.products, index.updated)), built);
 }
 
+TEST(CatalogIndex, AndItsPlacesKeepTheirPublishedNames) {
+    EXPECT_EQ(CatalogIndexName, "catalogo.json");
+    EXPECT_EQ(CatalogFormat, 1);
+    EXPECT_EQ(CatalogRootKey, "MVCATR01");
+    EXPECT_EQ(CatalogAddressKey, "MVCATS01");
+}
+
 TEST(CatalogIndex, OfNoProductsIsAnIndex) {
     const std::string written = JsonWrite(BuildCatalogIndex({}, "2026-11-21"));
     EXPECT_EQ(written, "{\n\t\"formato\": 1,\n\t\"atualizado\": \"2026-11-21\",\n"

@@ -61,6 +61,7 @@ TEST_F(HttpClient, TellsAnyOtherStatusByItsNumber) {
         const LoopbackServer server(AnswerWith(HttpAnswer(c.status, c.body)));
         const std::string url = server.Address("/catalogo.json");
         EXPECT_EQ(Get(url), (HttpResult{false, c.number, c.body, c.words + url}));
+        EXPECT_EQ(server.Heads().size(), 1U) << "nothing is asked twice";
     }
 }
 
@@ -238,6 +239,7 @@ TEST_F(HttpClient, TellsAnAnswerThatBreaksOff) {
         const LoopbackServer server(AnswerWith(c.sent));
         EXPECT_EQ(Get(server.Address("/")),
                   (HttpResult{false, c.status, c.body, "a conexao caiu"}));
+        EXPECT_EQ(server.Heads().size(), 1U) << "nothing is asked twice";
     }
 }
 

@@ -22,9 +22,12 @@ TEST(MacroCalls, AreTheTextsBehindTheKeywordCall) {
         {"call \"\" : call \"  \" : call 'x'", {"x"}},
         {"call ! which one\r\n ! still\n\t\"a\"", {"a"}}, // comments and lines between
         {"! call \"a\"\ncall \"b\"", {"b"}},
-        {"print \"call 'a'\"", {}},  // inside a text
-        {"call \"it's\"", {"it's"}}, // another quote does not end it
-        {"call \"open", {"open"}},   // nor is one needed at the end
+        {"! call \"a\"\rcall \"b\"", {"b"}}, // a carriage return alone ends a comment
+        {"x ! call\n\"a\"", {}},             // and none begins a call
+        {"call\v\f\"a\nb\"", {"a\nb"}},      // a text goes on over the line
+        {"print \"call 'a'\"", {}},          // inside a text
+        {"call \"it's\"", {"it's"}},         // another quote does not end it
+        {"call \"open", {"open"}},           // nor is one needed at the end
         {"call \"", {}},
         {"call name, \"a\"", {}},     // a name that is worked out
         {"call (\"a\")", {}},         // another character clears it
