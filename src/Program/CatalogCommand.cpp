@@ -38,6 +38,10 @@ std::string BaseAddress(const std::string& text) {
 
 /// Reads the index. False when there is none that can be used; the user was told why.
 bool LoadIndex(const std::string& address, Catalog::CatalogIndex& index) {
+    if (address.empty()) {
+        TellError("informe o endereço do catálogo");
+        return false;
+    }
     const Catalog::FetchResult fetched =
         Catalog::FetchCatalogFile(address, Catalog::CatalogIndexName);
     if (!fetched.ok) {

@@ -180,6 +180,17 @@ TEST_F(CatalogCommand, IsCancelledBetweenTwoProducts) {
     EXPECT_EQ(server.Heads().size(), 5U) << "the index and the first product's four files";
 }
 
+TEST_F(CatalogCommand, AsksForTheAddressWhereOnlyBlanksAndQuotesAreGiven) {
+    for (const std::string command : {"verificar", "listar"}) {
+        for (const std::string origin : {" ", "\"\"", " ' "}) {
+            const ProgramEnd run = RunVantoro({"catalogo", command, origin});
+            EXPECT_EQ(run.status, 1) << origin;
+            EXPECT_EQ(run.output, "");
+            EXPECT_EQ(run.error, "vantoro: informe o endereço do catálogo.\n");
+        }
+    }
+}
+
 TEST_F(CatalogCommand, FailsWhereNobodyAnswers) {
     const TemporaryFolder cache;
     const std::string address = "http://127.0.0.1:" + std::to_string(ClosedPort()) + "/";
