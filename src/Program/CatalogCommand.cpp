@@ -100,12 +100,12 @@ std::string SoughtText(const ListCatalogArguments& arguments) {
 } // namespace
 
 int CheckCatalogCommand(const CheckCatalogArguments& arguments) {
-    CatchInterrupts();
     const std::string address = BaseAddress(arguments.address);
     Catalog::CatalogIndex index;
     if (!LoadIndex(address, index)) {
         return StatusFailed;
     }
+    CatchInterrupts(); // not before: a server that is silent on the index can be left at once
     const Catalog::CatalogCheck check = CheckWithProgress(address, index);
     if (check.stopped) {
         TellError("verificação cancelada");

@@ -1,3 +1,4 @@
+#include <chrono>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -178,6 +179,26 @@ TEST_F(CatalogCommand, IsCancelledBetweenTwoProducts) {
     EXPECT_EQ(run.output, "");
     EXPECT_EQ(run.error, "vantoro: verificação cancelada.\n");
     EXPECT_EQ(server.Heads().size(), 5U) << "the index and the first product's four files";
+}
+
+TEST_F(CatalogCommand, LeavesAServerThatIsSilentOnTheIndexAtOnce) {
+    for (const std::string command : {"verificar", "listar"}) {
+        const TemporaryFolder cache;
+        const fs::path pidFile = cache.Path() / "pid";
+        LoopbackServer server([&pidFile](ServerConnection& connection) {
+            connection.ReadHead();
+            ::kill(std::stoi(ReadBytes(pidFile)), SIGINT);
+            connection.StaySilent();
+        });
+        ProgramCall call = WithCache(cache.Path());
+        call.prelude += " echo $$ >" + ShellWord(pidFile.string()) + ";";
+        const auto start = std::chrono::steady_clock::now();
+        const ProgramEnd run = RunVantoro({"catalogo", command, server.Address("/")}, call);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(30)) << command;
+        EXPECT_EQ(run.status, 130) << command;
+        EXPECT_EQ(run.output, "");
+        EXPECT_EQ(run.error, "");
+    }
 }
 
 TEST_F(CatalogCommand, AsksForTheAddressWhereOnlyBlanksAndQuotesAreGiven) {
