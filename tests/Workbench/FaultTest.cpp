@@ -108,6 +108,11 @@ Calls ElementCalls() {
              std::vector<Host::Body> bodies;
              return Host::GetBodies(WallGuid(), bodies);
          }},
+        {"GetLights",
+         [] {
+             std::vector<Host::ModelLight> lights;
+             return Host::GetLights(WallGuid(), lights);
+         }},
         {"GetScriptSurface",
          [] {
              Host::ModelSurface surface;
