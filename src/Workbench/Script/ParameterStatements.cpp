@@ -13,7 +13,7 @@ namespace {
 /// where the part has none of this name.
 std::string SpelledName(const ScriptMachine& machine, const std::string& name) {
     const std::size_t bracket = std::min(name.find('['), name.size());
-    std::string upper = Text::ToUpper(Text::Trim(std::string_view(name).substr(0, bracket)));
+    std::string upper = Text::ToUpper(Text::Trim(std::string_view{name}.substr(0, bracket)));
     if (upper == "A" || upper == "B") {
         return upper;
     }

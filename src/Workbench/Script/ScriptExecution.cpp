@@ -20,7 +20,8 @@ struct Execution {
 
 const ScriptArgument& ArgumentAt(const Execution& run, const Instruction& instruction,
                                  std::int32_t place) {
-    return run.program.arguments[static_cast<std::size_t>(instruction.firstArgument + place)];
+    return run.program.arguments[static_cast<std::size_t>(instruction.firstArgument) +
+                                 static_cast<std::size_t>(place)];
 }
 
 RunningVariable& VariableAt(const Execution& run, std::int32_t variable) {

@@ -12,7 +12,8 @@ namespace {
 
 const ScriptArgument& ArgumentAt(const ScriptProgram& program, const Instruction& instruction,
                                  std::int32_t place) {
-    return program.arguments[static_cast<std::size_t>(instruction.firstArgument + place)];
+    return program.arguments[static_cast<std::size_t>(instruction.firstArgument) +
+                             static_cast<std::size_t>(place)];
 }
 
 /// The macro's name: a text, the text that a variable holds, or the word itself.

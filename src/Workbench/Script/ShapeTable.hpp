@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -13,10 +14,14 @@ namespace Merivane::Workbench {
 /// How a statement is carried out.
 struct ShapeStatement {
     std::string_view keyword;
+    std::string_view does; ///< English, for the page of the language
     std::size_t arguments; ///< that must be there at least; where no more may follow, they are all
     bool more;
     std::string (*sketch)(ShapeInput& input, ShapeSketch& sketch);
 };
+
+/// All of them, in the order of their bytes.
+std::span<const ShapeStatement> ShapeStatements();
 
 /// The statement of a keyword; null for one that there is not.
 const ShapeStatement* FindShapeStatement(std::string_view keyword);

@@ -10,6 +10,7 @@
 #include "Support/Places.hpp"
 #include "Workbench/Script/ScriptFunctions.hpp"
 #include "Workbench/Script/ScriptStatements.hpp"
+#include "Workbench/Script/ShapeTable.hpp"
 
 // The page of the script language, held to the interpreter's tables. With VANTORO_REWRITE_GDL set
 // its tables are made anew.
@@ -46,6 +47,14 @@ std::string ControlTable() {
     return table;
 }
 
+std::string ShapeTable() {
+    std::string table(StatementHead);
+    for (const ShapeStatement& shape : ShapeStatements()) {
+        table += Row(shape.keyword, shape.does);
+    }
+    return table;
+}
+
 /// Holds the table behind its mark, up to the next blank line, or makes it anew.
 void HoldTable(const std::string& name, const std::string& table) {
     SCOPED_TRACE(name);
@@ -70,6 +79,7 @@ TEST(ScriptPage, TellsEveryStatementAndFunction) {
     HoldTable("plan", StatementTable(PlanStatements()));
     HoldTable("polygons", StatementTable(PlanPolygonStatements()));
     HoldTable("model", StatementTable(ModelControlStatements()));
+    HoldTable("shapes", ShapeTable());
     HoldTable("parameters", StatementTable(ParameterStatements()));
     HoldTable("quiet", StatementTable(QuietStatements()));
     HoldTable("numbers", FunctionTable(NumberFunctions()));
