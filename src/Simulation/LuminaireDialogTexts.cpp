@@ -48,8 +48,8 @@ std::string FluxLine(const IesFile& file) {
 std::string TableLine(const IesFile& file, std::size_t warningCount) {
     const double unit = Photometry::UnitsToMetres(file.unitsType) * MillimetresInAMetre;
     const bool round = file.width < 0.0 || file.length < 0.0;
-    std::string line = "Tabela: " + std::to_string(file.verticalAngles.size()) + " x " +
-                       std::to_string(file.horizontalAngles.size()) +
+    std::string line = "Tabela: " + std::to_string(file.horizontalAngles.size()) + " x " +
+                       std::to_string(file.verticalAngles.size()) +
                        " angulos     Abertura declarada: " + Whole(std::abs(file.width) * unit) +
                        " x " + Whole(std::abs(file.length) * unit) + " x " +
                        Whole(std::abs(file.height) * unit) + " mm" + (round ? " (redonda)" : "");

@@ -15,7 +15,8 @@ std::string FileIdentityLine(const Photometry::IesFile& file);
 /// Flux of the table and peak, the power and the efficacy where they are known.
 std::string FluxLine(const Photometry::IesFile& file);
 
-/// Size of the table, declared opening [mm], number of the reader's warnings where there are any.
+/// Numbers of horizontal and of vertical angles, declared opening [mm], number of the reader's
+/// warnings where there are any.
 std::string TableLine(const Photometry::IesFile& file, std::size_t warningCount);
 
 /// What the colours of the previews stand for and what the mouse does there.

@@ -48,6 +48,7 @@ constexpr Host::Colour Blue = {0.10, 0.32, 0.85};
 constexpr Host::Colour Green = {0.00, 0.55, 0.18};
 constexpr Host::Colour Orange = {0.93, 0.50, 0.00};
 constexpr Host::Colour Brown = {0.52, 0.32, 0.12};
+constexpr Host::Colour Grey = {0.45, 0.45, 0.45};
 
 class AddIes : public Tests::AddOnSession {
 protected:
@@ -107,14 +108,14 @@ TEST_F(AddIes, TellsTheObjectAndTheFile) {
     EXPECT_EQ(Text(Item::Identity), "No arquivo: fabricante Lumen     catálogo LX 200");
     EXPECT_EQ(Text(Item::Flux), "Fluxo (da tabela): 228 lm     Pico: 100 cd     Potencia: 10.0 W"
                                 "     Eficacia: 23 lm/W");
-    EXPECT_EQ(Text(Item::Table), "Tabela: 3 x 1 angulos     Abertura declarada: 100 x 200 x 0 mm");
+    EXPECT_EQ(Text(Item::Table), "Tabela: 1 x 3 angulos     Abertura declarada: 100 x 200 x 0 mm");
 }
 
 TEST_F(AddIes, TellsHowManyWarningsTheFileHas) {
     PickedIes picked = Spot();
     picked.warnings = {"a", "b", "c"};
     Answer("", Item::Accept, picked);
-    EXPECT_EQ(Text(Item::Table), "Tabela: 3 x 1 angulos     Abertura declarada: 100 x 200 x 0 mm"
+    EXPECT_EQ(Text(Item::Table), "Tabela: 1 x 3 angulos     Abertura declarada: 100 x 200 x 0 mm"
                                  "     Avisos: 3");
 }
 
@@ -259,6 +260,36 @@ TEST_F(AddIes, DrawsCurveOpeningAndAxisInEachView) {
         EXPECT_EQ(LinesOf(view, Brown), plan ? 0 : 1);
     }
     EXPECT_EQ(Picture(Item::FrontView).ground, (Host::Colour{1.0, 1.0, 1.0}));
+}
+
+TEST_F(AddIes, DrawsTheObjectsOutlineInEachView) {
+    // The box's two edges lie along X and Z; one that a view looks along is a point there.
+    Answer("");
+    for (const std::int16_t view : {Item::FrontView, Item::SideView, Item::PlanView}) {
+        std::vector<Host::PictureLine> edges;
+        for (const Host::PictureShape& shape : Picture(view).shapes) {
+            const auto* const line = std::get_if<Host::PictureLine>(&shape);
+            if (line && line->colour == Grey && line->points.size() == 2) {
+                edges.push_back(*line);
+            }
+        }
+        ASSERT_EQ(edges.size(), 2U) << view;
+        EXPECT_EQ(edges[0].points[0], edges[1].points[0]); // the corner that they share
+        const Host::ItemPoint across = edges[0].points[1];
+        const Host::ItemPoint upright = edges[1].points[1];
+        EXPECT_EQ(across.x > edges[0].points[0].x, view != Item::SideView);
+        EXPECT_EQ(across.y, edges[0].points[0].y);
+        EXPECT_EQ(upright.x, edges[1].points[0].x);
+        EXPECT_EQ(upright.y < edges[1].points[0].y, view != Item::PlanView);
+    }
+}
+
+TEST_F(AddIes, HasViewsOfTheSizeOfTheirPictures) {
+    Answer("");
+    for (const std::int16_t view : {Item::FrontView, Item::SideView, Item::PlanView}) {
+        EXPECT_EQ(LastItem(view).place.width, 320) << view;
+        EXPECT_EQ(LastItem(view).place.height, 210) << view;
+    }
 }
 
 TEST_F(AddIes, FramesEverythingAndFollowsTheFields) {

@@ -45,16 +45,16 @@ TEST(LuminaireDialogTexts, TellTableOpeningAndWarnings) {
     file.length = 1.2;
     file.height = 0.05;
     EXPECT_EQ(TableLine(file, 0),
-              "Tabela: 3 x 1 angulos     Abertura declarada: 300 x 1200 x 50 mm");
+              "Tabela: 1 x 3 angulos     Abertura declarada: 300 x 1200 x 50 mm");
     file.unitsType = 1;
     file.width = -0.5;
     file.length = 0.0;
     file.height = 0.0;
-    EXPECT_EQ(TableLine(file, 2), "Tabela: 3 x 1 angulos     Abertura declarada: 152 x 0 x 0 mm "
+    EXPECT_EQ(TableLine(file, 2), "Tabela: 1 x 3 angulos     Abertura declarada: 152 x 0 x 0 mm "
                                   "(redonda)     Avisos: 2");
     file.width = 0.5;
     file.length = -0.5;
-    EXPECT_EQ(TableLine(file, 1), "Tabela: 3 x 1 angulos     Abertura declarada: 152 x 152 x 0 mm "
+    EXPECT_EQ(TableLine(file, 1), "Tabela: 1 x 3 angulos     Abertura declarada: 152 x 152 x 0 mm "
                                   "(redonda)     Avisos: 1");
 }
 
