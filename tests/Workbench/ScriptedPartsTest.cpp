@@ -118,6 +118,24 @@ double SignedVolume(const Host::Body& body) {
     return six / 6.0;
 }
 
+std::vector<Drawing::Element> PlanElements(const Project& project) {
+    std::vector<Drawing::Element> elements;
+    for (const Drawing::Layer& layer : DrawPlan(project, 0, 50.0).layers) {
+        elements.insert(elements.end(), layer.elements.begin(), layer.elements.end());
+    }
+    return elements;
+}
+
+template <typename Kind> std::vector<Kind> DrawnOnPlan(const Project& project) {
+    std::vector<Kind> found;
+    for (const Drawing::Element& element : PlanElements(project)) {
+        if (const auto* const kind = std::get_if<Kind>(&element)) {
+            found.push_back(*kind);
+        }
+    }
+    return found;
+}
+
 TEST(ScriptedParts, BuildTheirBodiesFromTheObjectsSizesAndValues) {
     Project project = ProjectOf({ScriptedPart("Bloco", "BLOCK A, B, alto")});
     ProjectElement& object = AddObject(project, 1, 1);
@@ -255,6 +273,20 @@ TEST(ScriptedParts, TellWhyTheyStoppedOnceAndKeepWhatTheyBuilt) {
               "A peça \"Bloco\" parou no script 3D, linha 2, instrução BLOCO");
 }
 
+TEST(ScriptedParts, ShowNothingOfALoopThatDidNotEnd) {
+    Project made = ProjectOf({ScriptedPart("Laço", "WHILE 1 DO\nBLOCK 1, 1, 1\nENDWHILE",
+                                           "WHILE 1 DO\nLINE2 0, 0, 1, 1\nENDWHILE")});
+    for (int number = 1; number <= 40; ++number) {
+        AddObject(made, number, 1);
+    }
+    const Project& project = Open(std::move(made));
+    std::vector<Host::Body> bodies;
+    ASSERT_EQ(Host::GetBodies(Numbered(1), bodies), Host::NoError);
+    EXPECT_TRUE(bodies.empty());
+    EXPECT_TRUE(DrawnOnPlan<Drawing::Polyline>(project).empty());
+    EXPECT_EQ(ScriptComplaints(project).size(), 2U);
+}
+
 TEST(ScriptedParts, AreRunAnewAfterTheirRunsWereForgotten) {
     Project made = ProjectOf({ScriptedPart("Bloco", "BLOCK A, B, alto")});
     AddObject(made, 1, 1);
@@ -266,24 +298,6 @@ TEST(ScriptedParts, AreRunAnewAfterTheirRunsWereForgotten) {
     EXPECT_NEAR(ExtentOf(1).highest.z, 0.8, Near);
     const Project copy = project; // a copy may be changed: it runs its parts itself
     EXPECT_EQ(copy.runs.kept, nullptr);
-}
-
-std::vector<Drawing::Element> PlanElements(const Project& project) {
-    std::vector<Drawing::Element> elements;
-    for (const Drawing::Layer& layer : DrawPlan(project, 0, 50.0).layers) {
-        elements.insert(elements.end(), layer.elements.begin(), layer.elements.end());
-    }
-    return elements;
-}
-
-template <typename Kind> std::vector<Kind> DrawnOnPlan(const Project& project) {
-    std::vector<Kind> found;
-    for (const Drawing::Element& element : PlanElements(project)) {
-        if (const auto* const kind = std::get_if<Kind>(&element)) {
-            found.push_back(*kind);
-        }
-    }
-    return found;
 }
 
 TEST(ScriptedParts, DrawThePlanThatTheirScriptDrawsInsteadOfTheirBodies) {

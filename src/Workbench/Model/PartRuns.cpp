@@ -20,8 +20,9 @@ namespace Merivane::Workbench {
 namespace {
 
 constexpr double DegreesPerRadian = 180.0 / std::numbers::pi;
-constexpr std::int32_t PlanView = 2;  // GLOB_VIEW_TYPE and GLOB_CONTEXT
-constexpr std::int32_t ModelView = 3; // GLOB_VIEW_TYPE and GLOB_CONTEXT
+constexpr std::size_t RunawayShapes = 100'000; // of a script that stopped
+constexpr std::int32_t PlanView = 2;           // GLOB_VIEW_TYPE and GLOB_CONTEXT
+constexpr std::int32_t ModelView = 3;          // GLOB_VIEW_TYPE and GLOB_CONTEXT
 
 PartRuns& RunsOf(const Project& project) {
     if (!project.runs.kept) {
@@ -209,9 +210,27 @@ ScriptEnvironment EnvironmentOf(const Project& project, const ProjectElement& el
     return environment;
 }
 
-void KeepError(PartRuns& runs, const std::optional<ScriptError>& error) {
+bool IsRunaway(const PartModel& model) {
+    std::size_t faces = model.wires.size() + model.lights.size() + model.hotspots.size();
+    for (const FacedBody& body : model.bodies) {
+        faces += body.faces.size();
+    }
+    return faces > RunawayShapes;
+}
+
+bool IsRunaway(const PlanSymbolDrawing& symbol) {
+    return symbol.shapes.size() > RunawayShapes;
+}
+
+// What a script that stopped had made until then is shown, but not what an endless loop heaped up:
+// each placed object would have it again.
+template <typename Made>
+void KeepError(PartRuns& runs, const std::optional<ScriptError>& error, Made& made) {
     if (!error) {
         return;
+    }
+    if (IsRunaway(made)) {
+        made = {};
     }
     const std::string sentence = DescribeScriptError(*error);
     if (std::find(runs.complaints.begin(), runs.complaints.end(), sentence) ==
@@ -259,9 +278,10 @@ const PartModel& ModelOfObject(const Project& project, const ProjectPart& part,
     const auto [place, isNew] = runs.models.try_emplace(KeyOf(project, part, element).bytes);
     PartModel& model = place->second;
     if (isNew) {
-        KeepError(runs, RunModelScript(
-                            PreparePart(part, &element),
-                            EnvironmentOf(project, element, ModelView, project.planScale), model));
+        const auto error =
+            RunModelScript(PreparePart(part, &element),
+                           EnvironmentOf(project, element, ModelView, project.planScale), model);
+        KeepError(runs, error, model);
         NumberSurfaces(project, model);
     }
     return model;
@@ -276,8 +296,9 @@ const PlanSymbolDrawing& SymbolOfObject(const Project& project, const ProjectPar
     const auto [place, isNew] = runs.symbols.try_emplace(std::move(key.bytes));
     PlanSymbolDrawing& symbol = place->second;
     if (isNew) {
-        KeepError(runs, RunPlanScript(PreparePart(part, &element),
-                                      EnvironmentOf(project, element, PlanView, scale), symbol));
+        const auto error = RunPlanScript(PreparePart(part, &element),
+                                         EnvironmentOf(project, element, PlanView, scale), symbol);
+        KeepError(runs, error, symbol);
     }
     return symbol;
 }

@@ -46,8 +46,8 @@ struct ScriptLimits {
     std::int32_t depth = 64;         ///< of subroutines and macro calls together
     std::size_t values = 4'000'000;  ///< in arrays and in the parameter buffer, together
     std::size_t textBytes = 1 << 20; ///< of one text
-    std::size_t shapes = 2'000'000;  ///< drawn in plan; faces, wires and hotspots of a body
-    std::size_t vertices = 8'000'000;
+    std::size_t shapes = 500'000;    ///< drawn in plan; faces, wires and hotspots of a body
+    std::size_t vertices = 2'000'000;
 };
 
 /// Attributes that scripts name by number or by name.
