@@ -1,7 +1,6 @@
 #include "Document/ResultTable.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <set>
 #include <string_view>
@@ -9,44 +8,10 @@
 #include "Document/PlanePoints.hpp"
 #include "Simulation/PrintedValue.hpp"
 #include "Text/Ascii.hpp"
+#include "Text/FileName.hpp"
 #include "Text/Utf8.hpp"
 
 namespace Merivane::Document {
-
-namespace {
-
-/// Characters that Windows refuses in a file name, and those that part paths anywhere.
-constexpr std::string_view Refused = "<>:\"/\\|?*";
-
-/// Names of devices: Windows opens the device whatever the extension.
-bool IsDeviceName(std::string_view name) {
-    constexpr std::array<std::string_view, 4> devices = {"CON", "PRN", "AUX", "NUL"};
-    const std::string stem = Text::ToUpper(name.substr(0, name.find('.')));
-    const bool isPort = stem.size() == 4 && stem[3] >= '0' && stem[3] <= '9' &&
-                        (stem.starts_with("COM") || stem.starts_with("LPT"));
-    return isPort || std::find(devices.begin(), devices.end(), stem) != devices.end();
-}
-
-std::string SafeName(const std::string& title) {
-    constexpr std::size_t longest = 120; // bytes; file systems take 255 with the ending
-    std::string name;
-    for (const char c : title) {
-        const bool control = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
-        name += control || Refused.find(c) != std::string_view::npos ? '-' : c;
-    }
-    name = Text::TruncateUtf8(Text::Trim(name), longest);
-    // A leading dot hides a file, a leading minus reads as an option, and Windows drops dots and
-    // blanks at the end.
-    while (!name.empty() && (name.back() == '.' || name.back() == ' ')) {
-        name.pop_back();
-    }
-    if (name.empty() || name.front() == '.' || name.front() == '-' || IsDeviceName(name)) {
-        name.insert(0, "_");
-    }
-    return name;
-}
-
-} // namespace
 
 std::string WritePlaneTable(const Simulation::SensorPlane& plane,
                             const std::vector<double>& values) {
@@ -69,7 +34,7 @@ std::vector<std::string> UniqueFileNames(const std::vector<std::string>& titles,
     std::vector<std::string> names;
     std::set<std::string> taken; // in upper case
     for (const std::string& title : titles) {
-        const std::string safe = SafeName(title);
+        const std::string safe = Text::FileNameOf(title);
         std::string name = safe;
         for (int copy = 2; !taken.insert(Text::ToUpper(name)).second; ++copy) {
             name = safe + " (" + std::to_string(copy) + ")";

@@ -118,10 +118,29 @@ int ShowPartCommand(const ShowPartArguments& arguments) {
     return StatusDone;
 }
 
+namespace {
+
+/// The part's own file, or one that stands for it, would be lost.
+bool IsOwnFile(const std::string& part, const std::string& target) {
+    std::error_code ignored; // a target that is not there is another file
+    return fs::equivalent(Text::NativePath(Text::Widen(part)),
+                          Text::NativePath(Text::Widen(target)), ignored);
+}
+
+bool CheckTarget(const ExportPartArguments& arguments, std::string& error) {
+    if (!arguments.xmlFile.empty() && IsOwnFile(arguments.file, arguments.xmlFile)) {
+        error = "\"" + arguments.xmlFile + "\" é a própria peça: escolha outro arquivo";
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
 int ExportPartCommand(const ExportPartArguments& arguments) {
     PartDocument document;
     std::string error;
-    const bool good = ReadPart(arguments.file, document, error) &&
+    const bool good = CheckTarget(arguments, error) && ReadPart(arguments.file, document, error) &&
                       (arguments.folder.empty() || ExportFolder(arguments, document, error)) &&
                       (arguments.xmlFile.empty() || ExportXml(arguments, document, error));
     if (!good) {

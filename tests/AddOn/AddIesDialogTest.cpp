@@ -225,6 +225,13 @@ TEST_F(AddIes, TrimsTheNameAndTakesTheFilesForAnEmptyOne) {
     }
 }
 
+TEST_F(AddIes, MakesANameThatAFileCanHave) {
+    Answer(R"({"item": 27, "texto": "Spot 20/30: 5\" ."})");
+    EXPECT_EQ(result.newName, "Spot 20-30- 5-");
+    Answer(R"({"item": 27, "texto": "../fora"})");
+    EXPECT_EQ(result.newName, "_..-fora");
+}
+
 TEST_F(AddIes, ProposesANameThatTellsThePartFromItsSource) {
     PickedIes picked = Spot();
     picked.baseName = "Spot branco";

@@ -189,6 +189,17 @@ TEST(PartCommand, NeverReplacesAFolderThatIsNoPart) {
     EXPECT_TRUE(fs::exists(folder.Path() / "Mesa/carta.txt"));
 }
 
+TEST(PartCommand, NeverReplacesThePartItself) {
+    const TemporaryFolder folder;
+    const std::string file = WritePart(folder.Path() / "Mesa.gsm", MakeTable());
+    const std::string bytes = ReadBytes(file);
+    const std::string same = (folder.Path() / "." / "Mesa.gsm").string();
+    const ProgramEnd end = RunVantoro({"peca", "exportar", file, "--xml", same});
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error, "vantoro: \"" + same + "\" é a própria peça: escolha outro arquivo.\n");
+    EXPECT_EQ(ReadBytes(file), bytes);
+}
+
 TEST(PartCommand, WantsToKnowTheFormToExport) {
     const ProgramEnd end = RunVantoro({"peca", "exportar", "Mesa.gsm"});
     EXPECT_EQ(end.status, 2);

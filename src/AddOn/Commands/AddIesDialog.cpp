@@ -1,5 +1,6 @@
 #include "AddOn/Commands/AddIesDialog.hpp"
 
+#include <cmath>
 #include <utility>
 
 #include "AddOn/DarkModeIcon.hpp"
@@ -9,6 +10,7 @@
 #include "Photometry/LuminaireIdentity.hpp"
 #include "Simulation/LuminaireDialogTexts.hpp"
 #include "Text/Ascii.hpp"
+#include "Text/FileName.hpp"
 #include "Text/Number.hpp"
 
 namespace Merivane::Commands {
@@ -134,7 +136,10 @@ void AddIesDialog::CenterAt(double z) {
                                                       {Item::CenterY, (low.y + high.y) / 2.0},
                                                       {Item::CenterZ, z}};
     for (const auto& [item, metres] : places) {
-        Host::SetItemNumber(dialog, item, metres * CentimetresInAMetre);
+        // The middle of a body seldom is a round number: a micrometre is enough.
+        constexpr double Steps = 1e4;
+        const double centimetres = std::round(metres * CentimetresInAMetre * Steps) / Steps;
+        Host::SetItemNumber(dialog, item, centimetres + 0.0); // no minus zero
     }
 }
 
@@ -218,6 +223,7 @@ void AddIesDialog::TakeResult() {
     if (result.newName.empty()) {
         result.newName = picked.baseName;
     }
+    result.newName = Text::FileNameOf(result.newName); // the part is a file of that name
 }
 
 /// A view that the user has neither zoomed nor moved goes on to hold everything.

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Merivane::Text {
+
+/// A title as the name of a file without its extension, on every system: "-" for the characters
+/// that some system refuses and for control characters, no blanks or points at its end, at most 120
+/// bytes, "_" in front of what would be empty, hidden, an option or a device.
+std::string FileNameOf(std::string_view title);
+
+} // namespace Merivane::Text
