@@ -56,6 +56,42 @@ TEST(DrawCommand, DrawsEveryWindowInThreeForms) {
               std::string::npos);
 }
 
+TEST(DrawCommand, ShowsTheSymbolsOfLuminairesWhereAsked) {
+    const TemporaryFolder folder;
+    std::vector<std::string> call = {"desenhar", Office(), "--pavimento", "0", "--saida"};
+    call.push_back((folder.Path() / "formas").string());
+    ASSERT_EQ(RunVantoro(call).status, 0);
+    call.back() = (folder.Path() / "simbolos").string();
+    call.push_back("--simbolos");
+    ASSERT_EQ(RunVantoro(call).status, 0);
+    const std::string shapes = ReadBytes(folder.Path() / "formas" / "planta 0 Térreo.svg");
+    const std::string symbols = ReadBytes(folder.Path() / "simbolos" / "planta 0 Térreo.svg");
+    EXPECT_NE(shapes, symbols);
+}
+
+TEST(DrawCommand, TellsWhyTheScriptOfAPartStoppedAndDrawsTheRest) {
+    const TemporaryFolder folder;
+    const std::filesystem::path sample = SourceFolder() / "exemplos";
+    const std::string project = (folder.Path() / "escritorio.vantoro").string();
+    std::filesystem::copy(sample / "escritorio.vantoro", project);
+    std::filesystem::copy(sample / "Vantoro Library", folder.Path() / "Vantoro Library");
+    const std::filesystem::path part = folder.Path() / "Vantoro Library" / "Downlight Roda 150.gsm";
+    std::string bytes = ReadBytes(part);
+    const std::size_t place = bytes.find("RESOL 24");
+    ASSERT_NE(place, std::string::npos);
+    bytes.replace(place, 5, "RESOU");
+    WriteBytes(part, bytes);
+    const ProgramEnd end = RunVantoro(
+        {"desenhar", project, "--axonometria", "--saida", (folder.Path() / "desenhos").string()});
+    EXPECT_EQ(end.status, 0);
+    EXPECT_TRUE(
+        end.error.starts_with("vantoro: A peça \"Downlight Roda 150\" parou no script 3D, linha "))
+        << end.error;
+    EXPECT_NE(end.error.find("instrução RESOU"), std::string::npos) << end.error;
+    EXPECT_EQ(std::count(end.error.begin(), end.error.end(), '\n'), 1) << end.error;
+    EXPECT_EQ(FilesIn(folder.Path() / "desenhos"), Drawings({"axonometria"}));
+}
+
 TEST(DrawCommand, DrawsTheSameBytesEachTime) {
     const TemporaryFolder first;
     const TemporaryFolder second;
