@@ -29,8 +29,8 @@ bool LoadAddOn(std::string& error);
 /// Portuguese sentence that names the file.
 bool OpenProjectFile(const std::string& file, std::string& error);
 
-/// Tells on standard error why scripts of library parts stopped so far, one sentence each; what they
-/// had drawn until then is shown.
+/// Tells on standard error why scripts of library parts stopped so far, one sentence each; what
+/// they had drawn until then is shown.
 void TellScriptComplaints();
 
 /// Writes the open project whole or not at all, and tells so unless `silent`. Returns false with

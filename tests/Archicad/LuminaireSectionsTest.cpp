@@ -58,7 +58,7 @@ TEST(AddPlanBlock, DrawsStoredLinesWhereThereIsNoScriptOfThePartsOwn) {
     const std::string oldBlock = Photometry::Script2DWithBlock("");
     EXPECT_EQ(After({lines}, AddPlanBlock, {}), (Sections{lines, drawn}));
     for (const std::string& script : {std::string(), std::string(" \t\r\n"), oldBlock,
-                                     oldBlock + "\r\n  " + oldBlock, " \r\n" + oldBlock}) {
+                                      oldBlock + "\r\n  " + oldBlock, " \r\n" + oldBlock}) {
         EXPECT_EQ(After({Section("2DSC", script), lines}, AddPlanBlock, {}),
                   (Sections{drawn, lines}));
     }

@@ -146,7 +146,7 @@ struct Project {
     std::int16_t activeFloor = 0;
     double planScale = 100.0;
     bool lightingSymbols = false; ///< plans show the symbols of luminaires instead of their shapes
-    std::uint64_t lastStamp = 0; ///< of the latest change of an element
+    std::uint64_t lastStamp = 0;  ///< of the latest change of an element
     KeptRuns runs;
 
     bool operator==(const Project&) const = default;
