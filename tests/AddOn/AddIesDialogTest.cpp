@@ -274,7 +274,8 @@ TEST_F(AddIes, DrawsTheObjectsOutlineInEachView) {
     Answer("");
     for (const std::int16_t view : {Item::FrontView, Item::SideView, Item::PlanView}) {
         std::vector<Host::PictureLine> edges;
-        for (const Host::PictureShape& shape : Picture(view).shapes) {
+        const Host::UserPicture picture = Picture(view);
+        for (const Host::PictureShape& shape : picture.shapes) {
             const auto* const line = std::get_if<Host::PictureLine>(&shape);
             if (line && line->colour == Grey && line->points.size() == 2) {
                 edges.push_back(*line);
@@ -379,7 +380,7 @@ TEST_F(AddIes, KeepsAViewThatTheUserHasMovedWhenAFieldChanges) {
 TEST_F(AddIes, HasAScaleBarInEachView) {
     Answer("");
     for (const std::int16_t view : {Item::FrontView, Item::SideView, Item::PlanView}) {
-        const Host::PictureShape& last = Picture(view).shapes.back();
+        const Host::PictureShape last = Picture(view).shapes.back();
         ASSERT_TRUE(std::holds_alternative<Host::PictureText>(last));
         EXPECT_TRUE(std::get<Host::PictureText>(last).text.ends_with(" cm"));
     }

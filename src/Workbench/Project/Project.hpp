@@ -119,6 +119,7 @@ struct KeptRuns {
 
     KeptRuns() = default;
     KeptRuns(const KeptRuns& /*other*/) {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): what is kept may go at any time
     KeptRuns& operator=(const KeptRuns& /*other*/) {
         kept.reset();
         return *this;
