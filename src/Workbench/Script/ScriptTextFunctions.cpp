@@ -91,7 +91,7 @@ bool FindText(ScriptMachine& machine, FunctionCall& call) {
     return GiveNumber(call, found == std::string::npos
                                 ? 0.0
                                 : 1.0 + static_cast<double>(CountCharacters(
-                                            std::string_view(text).substr(0, found))));
+                                            std::string_view{text}.substr(0, found))));
 }
 
 bool CutText(ScriptMachine& machine, FunctionCall& call) {
@@ -104,7 +104,7 @@ bool CutText(ScriptMachine& machine, FunctionCall& call) {
     const std::int32_t count = std::max(0, WholeNumber(call.values[2].number));
     const std::size_t begin = CharacterPlace(text, static_cast<std::size_t>(from - 1));
     const std::size_t length =
-        CharacterPlace(std::string_view(text).substr(begin), static_cast<std::size_t>(count));
+        CharacterPlace(std::string_view{text}.substr(begin), static_cast<std::size_t>(count));
     return GiveText(machine, call, text.substr(begin, length));
 }
 
