@@ -218,7 +218,7 @@ void MarkMissing(Project& project, const std::set<std::size_t>& taken) {
 } // namespace
 
 std::wstring FolderOfLibrary(const ProjectLibrary& library, const std::wstring& projectPath) {
-    const std::wstring wide = Text::Widen(library.path);
+    std::wstring wide = Text::Widen(library.path);
     const fs::path path = Text::NativePath(wide);
     if (path.is_absolute()) {
         return wide;

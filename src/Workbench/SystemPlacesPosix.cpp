@@ -39,7 +39,7 @@ std::string HomeFolder() {
 }
 
 std::string ConfigurationFolder() {
-    const std::string folder = Variable("XDG_CONFIG_HOME");
+    std::string folder = Variable("XDG_CONFIG_HOME");
     if (IsFullPath(folder)) {
         return folder;
     }

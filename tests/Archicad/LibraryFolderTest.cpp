@@ -20,6 +20,7 @@ protected:
         std::int32_t embedded = -1;
         EXPECT_EQ(Host::GetLibraries(libraries, embedded), Host::NoError);
         std::vector<std::wstring> paths;
+        paths.reserve(libraries.size());
         for (const Host::Library& library : libraries) {
             paths.push_back(library.path);
         }

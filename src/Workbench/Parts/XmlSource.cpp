@@ -196,7 +196,7 @@ std::string InnerText(const xml_node& node) {
 }
 
 std::string InnerString(const xml_node& node) {
-    const std::string text = InnerText(node);
+    std::string text = InnerText(node);
     if (text.size() < 2 || text.front() != text.back() ||
         (text.front() != '"' && text.front() != '\'')) {
         return text;
