@@ -56,9 +56,10 @@ TEST(AddPlanBlock, DrawsStoredLinesWhereThereIsNoScriptOfThePartsOwn) {
         Section("2DSC", Photometry::Script2DWithBlock("FRAGMENT2 ALL, 0\r\n"));
     const CopiedSection lines = Section("2DDR", "lines");
     const std::string oldBlock = Photometry::Script2DWithBlock("");
+    const std::string twoBlocks = std::string(oldBlock).append("\r\n  ").append(oldBlock);
     EXPECT_EQ(After({lines}, AddPlanBlock, {}), (Sections{lines, drawn}));
-    for (const std::string& script : {std::string(), std::string(" \t\r\n"), oldBlock,
-                                      oldBlock + "\r\n  " + oldBlock, " \r\n" + oldBlock}) {
+    for (const std::string& script :
+         {std::string(), std::string(" \t\r\n"), oldBlock, twoBlocks, " \r\n" + oldBlock}) {
         EXPECT_EQ(After({Section("2DSC", script), lines}, AddPlanBlock, {}),
                   (Sections{drawn, lines}));
     }
