@@ -29,7 +29,7 @@ bool NamesDevice(std::string_view part) {
     return std::any_of(std::begin(NumberedDevices), std::end(NumberedDevices),
                        [&name](std::string_view device) {
                            return name.starts_with(device) &&
-                                  IsPortNumber(std::string_view(name).substr(device.size()));
+                                  IsPortNumber(std::string_view{name}.substr(device.size()));
                        });
 }
 

@@ -22,7 +22,7 @@ std::string_view FileStem(std::string_view path) {
     return point == std::string_view::npos || point == 0 ? name : name.substr(0, point);
 }
 
-std::string Either(std::string first, std::string_view otherwise) {
+std::string Either(const std::string& first, std::string_view otherwise) {
     return first.empty() ? std::string(otherwise) : first;
 }
 

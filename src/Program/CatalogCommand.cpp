@@ -26,7 +26,7 @@ namespace {
 /// A catalogue's base from what stands on the command line. A folder by its full path, so that a
 /// lone "catalogo.json" leads to the folder that it stands in.
 std::string BaseAddress(const std::string& text) {
-    const std::string address = Catalog::NormalizeCatalogAddress(text);
+    std::string address = Catalog::NormalizeCatalogAddress(text);
     if (Catalog::IsRemoteAddress(address)) {
         return address;
     }

@@ -26,6 +26,12 @@ std::string PartName(const std::string& file) {
     return Text::Narrow(Text::WidePath(Text::NativePath(Text::Widen(file)).stem()));
 }
 
+/// A sentence about a file, which it names first.
+std::string AboutFile(const std::string& file, const std::string& sentence) {
+    std::string text = "\"";
+    return text.append(file).append("\": ").append(sentence);
+}
+
 /// Reads a part; what it does not understand is told as a warning.
 bool ReadPart(const std::string& file, PartDocument& document, std::string& error) {
     std::string bytes;
@@ -35,18 +41,18 @@ bool ReadPart(const std::string& file, PartDocument& document, std::string& erro
         return false;
     }
     if (!Workbench::Parts::ReadPartXml(bytes, document, notes, error)) {
-        error = '"' + file + "\": " + error;
+        error = AboutFile(file, error);
         return false;
     }
     for (const std::string& note : notes) {
-        TellError('"' + file + "\": " + note);
+        TellError(AboutFile(file, note));
     }
     return true;
 }
 
 void TellLeftOut(const std::vector<std::string>& names, const std::string& target) {
     for (const std::string& name : names) {
-        TellError('"' + target + "\": ficou de fora " + name);
+        TellError(AboutFile(target, "ficou de fora " + name));
     }
 }
 

@@ -47,6 +47,7 @@ Workbench::Project PlacedProject() {
 void Select(const std::vector<std::uint32_t>& numbers) {
     OpenSample(PlacedProject());
     std::vector<Host::Guid> guids;
+    guids.reserve(numbers.size());
     for (const std::uint32_t number : numbers) {
         guids.push_back(NumberedGuid(number));
     }
