@@ -86,9 +86,9 @@ TEST(Sha256, DoesNotCareHowTheBytesAreDividedOverTheCalls) {
         Sha256Run run;
         for (std::size_t at = 0; at < bytes.size();) {
             const std::size_t count = std::min<std::size_t>(random() % 200, bytes.size() - at);
-            Sha256Add(run, std::string_view(bytes).substr(at, count));
+            Sha256Add(run, std::string_view{bytes}.substr(at, count));
             at += count;
-            ASSERT_EQ(Sha256Hex(run), Sha256Hex(std::string_view(bytes).substr(0, at)));
+            ASSERT_EQ(Sha256Hex(run), Sha256Hex(std::string_view{bytes}.substr(0, at)));
         }
     }
 }

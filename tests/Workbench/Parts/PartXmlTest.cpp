@@ -248,7 +248,7 @@ TEST(PartXml, CutAtAnyLengthIsRefusedOrThePart) {
         PartDocument part;
         std::vector<std::string> notes;
         std::string error;
-        EXPECT_FALSE(ReadPartXml(std::string_view(whole).substr(0, length), part, notes, error));
+        EXPECT_FALSE(ReadPartXml(std::string_view{whole}.substr(0, length), part, notes, error));
         EXPECT_TRUE(error.starts_with("linha ")) << error;
     }
 }
