@@ -21,6 +21,7 @@ ModelBuild EmptyBuild() {
 
 std::vector<Workbench::ScriptValue> Arguments(const std::vector<double>& numbers) {
     std::vector<Workbench::ScriptValue> values;
+    values.reserve(numbers.size());
     for (const double number : numbers) {
         values.push_back({false, number, {}});
     }
@@ -33,7 +34,7 @@ std::string Build(ModelBuild& build, std::string_view keyword, const std::vector
 
 std::string Refusal(std::string_view keyword, const std::vector<double>& numbers) {
     ModelBuild build = EmptyBuild();
-    const std::string refusal = Build(build, keyword, numbers);
+    std::string refusal = Build(build, keyword, numbers);
     EXPECT_TRUE(build.model.bodies.empty());
     EXPECT_TRUE(build.model.wires.empty());
     return refusal;
