@@ -40,6 +40,7 @@ void AddIesSession::Select(const std::vector<std::uint32_t>& numbers) {
     Open(false);
     Workbench::OpenProject(PlacedProject());
     std::vector<Host::Guid> guids;
+    guids.reserve(numbers.size());
     for (const std::uint32_t number : numbers) {
         guids.push_back(NumberedGuid(number));
     }

@@ -39,7 +39,8 @@ TEST(Extrusion, IsAnObliquePrism) {
 
 TEST(Extrusion, KeepsTheFacesOfItsMask) {
     const auto faces = [](double mask, const Numbers& rows) {
-        return Built("EXTRUDE", Numbers{static_cast<double>(rows.size() / 3), 0, 0, 1, mask} + rows)
+        const std::size_t count = rows.size() / 3; // x, y, status
+        return Built("EXTRUDE", Numbers{static_cast<double>(count), 0, 0, 1, mask} + rows)
             .faces.size();
     };
     EXPECT_EQ(faces(7, OpenSquare), 6U);
