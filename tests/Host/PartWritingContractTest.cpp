@@ -183,6 +183,7 @@ TEST_F(PartWritingContract, BringsTheSubtypesParametersOnce) {
     std::vector<LibraryParameter> read;
     ASSERT_EQ(GetPartParameters(saved.index, size, size, read), NoError);
     std::vector<std::string> names;
+    names.reserve(read.size());
     for (const LibraryParameter& parameter : read) {
         names.push_back(parameter.name);
     }
