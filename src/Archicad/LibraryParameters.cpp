@@ -68,14 +68,14 @@ Ranked RankOf(const LibraryParameter& parameter, std::size_t place,
 
 /// The contract's names, those of earlier versions included, in lower case.
 const std::set<std::string>& LoweredContractNames() {
-    static const std::set<std::string> names = [] {
+    static const std::set<std::string> Names = [] {
         std::set<std::string> lowered;
         for (const std::string& name : Photometry::ContractParameterNames()) {
             lowered.insert(Text::ToLower(name));
         }
         return lowered;
     }();
-    return names;
+    return Names;
 }
 
 } // namespace
