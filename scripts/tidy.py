@@ -2,9 +2,10 @@
 """Runs clang-tidy over the sources given, several at a time.
 
 Nearly all of clang-tidy's time goes into the standard headers, once for each translation unit. So
-the sources of one folder that are compiled alike are looked at in one unit that includes them all.
-A source that a batch complains about, for a finding or because two sources give one name to two
-things of their own, is looked at once more alone, and that verdict counts.
+many sources that are compiled alike are looked at in one unit that includes them all. Sources that
+give one name to two things of their own go into different units. A source that a unit complains
+about, for a finding or for a name that was overlooked, is looked at once more alone, and that
+verdict counts.
 
 What passed is marked by the content of the source, of its project headers and of the settings, and
 is not looked at again until one of these changes.
@@ -22,10 +23,14 @@ import sys
 from collections import defaultdict
 from concurrent.futures import ThreadPoolExecutor
 from functools import lru_cache
+from itertools import chain
 from pathlib import Path
 
+from units import units
+
 ROOT = Path(__file__).resolve().parent.parent
-LARGEST_BATCH = 12
+LARGEST_BATCH = 40
+UNIT_INCLUDE = re.compile(r'^#include "([^"]+\.cpp)"', re.M)
 INCLUDE = re.compile(rb'^\s*#\s*include\s*"([^"]+)"', re.M)
 
 
@@ -61,6 +66,13 @@ def digest(path, settings):
     return hashlib.sha256("\n".join(parts).encode()).hexdigest()[:32]
 
 
+def compiled_sources(file):
+    """The sources of a unit that the build has put together, else the file itself."""
+    if file.parent.name != "Unity":
+        return [file]
+    return [Path(name) for name in UNIT_INCLUDE.findall(file.read_text())]
+
+
 def compile_flags(database):
     """For each source its compiler flags, without what names the source itself."""
     flags = {}
@@ -75,19 +87,35 @@ def compile_flags(database):
                 skip = True
             else:
                 kept.append(word)
-        flags[Path(entry["file"])] = tuple(kept)
+        for source in compiled_sources(Path(entry["file"])):
+            flags[source] = tuple(kept)
     return flags
 
 
+def split_flags(flags):
+    """The folders that are searched for headers, and all other flags."""
+    folders, others = [], []
+    words = iter(flags)
+    for word in words:
+        if word == "-isystem":
+            folders.append((word, next(words)))
+        elif word.startswith("-I"):
+            folders.append((word,))
+        else:
+            others.append(word)
+    return folders, tuple(others)
+
+
 def batches(sources, flags):
-    """Sources of one folder with the same flags, in pieces of nearly one size."""
+    """Sources of the same flags, except for folders with headers, that share no name; with the
+    flags of all."""
     alike = defaultdict(list)
     for source in sources:
-        alike[(source.parent, flags[source])].append(source)
-    for members in alike.values():
-        count = -(-len(members) // LARGEST_BATCH)
-        for i in range(count):
-            yield members[len(members) * i // count : len(members) * (i + 1) // count]
+        alike[split_flags(flags[source])[1]].append(source)
+    for others, members in alike.items():
+        for unit in units(members, LARGEST_BATCH):
+            folders = dict.fromkeys(f for source in unit for f in split_flags(flags[source])[0])
+            yield unit, (*others, *chain.from_iterable(folders))
 
 
 class Tidy:
@@ -118,14 +146,14 @@ class Tidy:
                 self.told.add(finding)
                 print(finding, end="", flush=True)
 
-    def together(self, batch):
+    def together(self, batch, flags):
         """True where every source of the batch passed."""
         if len(batch) == 1:
             return self.alone(batch[0])
         name = hashlib.sha256("".join(map(str, batch)).encode()).hexdigest()[:16]
         unit = self.marks / f"{name}.cpp"
         unit.write_text("".join(f'#include "{source}"\n' for source in batch))
-        passed, told = self.run(unit, self.flags[batch[0]])
+        passed, told = self.run(unit, flags)
         unit.unlink()
         if passed:
             for source in batch:
@@ -135,7 +163,7 @@ class Tidy:
         others = [s for s in batch if s not in named]
         verdicts = [self.alone(source) for source in named]
         if others:
-            verdicts.append(self.together(others))
+            verdicts.append(self.together(others, flags))
         return all(verdicts)
 
 
@@ -155,9 +183,10 @@ def main():
     for source in unknown:
         print(f"{source}: no command compiles it", flush=True)
     tidy = Tidy(marks, flags, marked)
-    work = sorted(batches([s for s in todo if s in flags], flags), key=len, reverse=True)
+    work = sorted(
+        batches([s for s in todo if s in flags], flags), key=lambda batch: len(batch[0]), reverse=True)
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        verdicts = list(pool.map(tidy.together, work))
+        verdicts = list(pool.map(lambda batch: tidy.together(*batch), work))
     return 0 if all(verdicts) and not unknown else 1
 
 

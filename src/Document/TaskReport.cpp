@@ -60,8 +60,8 @@ std::vector<std::string> Wrap(std::string_view text, std::size_t width) {
     return lines;
 }
 
-std::string Numbers(std::string_view em, std::string_view u0, std::string_view ugr,
-                    std::string_view ra) {
+std::string RowNumbers(std::string_view em, std::string_view u0, std::string_view ugr,
+                       std::string_view ra) {
     return "  " + Right(em, 5) + "  " + Right(u0, 4) + "  " + Right(ugr, 4) + "  " + Right(ra, 2);
 }
 
@@ -72,7 +72,7 @@ void AppendSection(const TaskRow& row, std::vector<std::string>& lines) {
     const std::string number = std::to_string(row.section) + ". ";
     const std::vector<std::string> name = Wrap(row.sectionName, NumbersStart - number.size());
     lines.push_back(Left(number + name.front(), NumbersStart) +
-                    Numbers("Em lx", "U0", "UGRL", "Ra"));
+                    RowNumbers("Em lx", "U0", "UGRL", "Ra"));
     for (std::size_t i = 1; i < name.size(); ++i) {
         lines.push_back(Blanks(0, number.size()) + name[i]);
     }
@@ -83,7 +83,8 @@ void AppendRow(const TaskRow& row, std::vector<std::string>& lines) {
     const std::string ugr = row.ugrLimit == 0 ? "-" : std::to_string(row.ugrLimit);
     lines.push_back(
         Left(Blanks(0, Indent) + Left(row.id, IdWidth) + "  " + activity.front(), NumbersStart) +
-        Numbers(FormatDecimal(row.em, 0), FormatDecimal(row.u0, 2), ugr, std::to_string(row.ra)));
+        RowNumbers(FormatDecimal(row.em, 0), FormatDecimal(row.u0, 2), ugr,
+                   std::to_string(row.ra)));
     for (std::size_t i = 1; i < activity.size(); ++i) {
         lines.push_back(Blanks(0, TextStart) + activity[i]);
     }

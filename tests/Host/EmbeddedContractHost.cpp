@@ -78,7 +78,7 @@ ProjectElement MakeColumn() {
     return column;
 }
 
-ProjectElement MakeLine(std::uint8_t number, std::int32_t layer) {
+ProjectElement ProjectLine(std::uint8_t number, std::int32_t layer) {
     ProjectElement line = MakeElement(ElementType::Line, number, layer);
     line.element.data = LineData{{0.0, 0.0}, {1.0, 0.0}, 1, {}};
     return line;
@@ -93,9 +93,9 @@ void AddElements(Project& project) {
                         MakeOpening(ElementType::Window, 11, 2.0),
                         MakeOpening(ElementType::Door, 12, 4.0),
                         MakeColumn(),
-                        MakeLine(16, 2),
-                        MakeLine(17, 3),
-                        MakeLine(18, 4),
+                        ProjectLine(16, 2),
+                        ProjectLine(17, 3),
+                        ProjectLine(18, 4),
                         MakeElement(ElementType::CutPlane, 20, 2)};
     project.elements[4].element.header.locked = true;
     ProjectElement shown = MakeElement(ElementType::SectionElement, 21, 2);

@@ -10,6 +10,8 @@
 namespace Merivane::Photometry {
 namespace {
 
+using Keywords = std::vector<std::pair<std::string, std::string>>;
+
 using Tests::MakeTable;
 using Tests::Steps;
 
@@ -117,7 +119,6 @@ TEST(WriteIes, GivesFreeHeaderLinesBackAsKeywordsNamedOther) {
     file.otherLines = {"one", "two"};
     IesFile back;
     ASSERT_TRUE(ReadIes(WriteIes(file), back).ok);
-    using Keywords = std::vector<std::pair<std::string, std::string>>;
     EXPECT_EQ(back.keywords, (Keywords{{"A", "x"}, {"OTHER", "one"}, {"OTHER", "two"}}));
     EXPECT_TRUE(back.otherLines.empty());
 }

@@ -5,8 +5,9 @@
 namespace Merivane::Photometry {
 namespace {
 
+using Type = ContractParameterType;
+
 TEST(ContractParameterType, HasTheNumbersOfTheContract) {
-    using Type = ContractParameterType;
     const Type types[] = {Type::Integer, Type::Real,   Type::Length,    Type::Angle,
                           Type::Boolean, Type::String, Type::RealArray, Type::StringArray,
                           Type::Pen,     Type::Title};

@@ -11,7 +11,7 @@ namespace {
 using Drawing::Point;
 
 constexpr double MostLines = 20000.0;
-constexpr double Dot = 1e-6; // where a line meets a corner [mm]
+constexpr double Touch = 1e-6; // where a line meets a corner [mm]
 
 Point Turn(const Point& point, double cosine, double sine) {
     return {point.x * cosine - point.y * sine, point.x * sine + point.y * cosine};
@@ -56,7 +56,7 @@ std::vector<std::pair<Point, Point>> PatternLines(const std::vector<std::vector<
     for (double row = std::ceil(low / distance); row * distance <= high; row += 1.0) {
         const std::vector<double> places = Crossings(level, row * distance);
         for (std::size_t i = 0; i + 1 < places.size(); i += 2) {
-            if (places[i + 1] - places[i] > Dot) {
+            if (places[i + 1] - places[i] > Touch) {
                 lines.emplace_back(Turn({places[i], row * distance}, cosine, sine),
                                    Turn({places[i + 1], row * distance}, cosine, sine));
             }

@@ -216,7 +216,7 @@ constexpr LowLevelStatement Statements[] = {
     {"VERT", 3, false, 0, AddOpenVertex}, {"VERT{2}", 4, false, 0, AddOpenVertex},
 };
 
-const LowLevelStatement* FindStatement(std::string_view keyword) {
+const LowLevelStatement* FindLowLevelStatement(std::string_view keyword) {
     const auto* const found =
         std::find_if(std::begin(Statements), std::end(Statements),
                      [&](const LowLevelStatement& known) { return known.keyword == keyword; });
@@ -226,12 +226,12 @@ const LowLevelStatement* FindStatement(std::string_view keyword) {
 } // namespace
 
 bool IsLowLevelStatement(std::string_view keyword) {
-    return FindStatement(keyword) != nullptr;
+    return FindLowLevelStatement(keyword) != nullptr;
 }
 
 std::string RunLowLevelStatement(ModelBuild& build, std::string_view keyword,
                                  const std::vector<ScriptValue>& arguments) {
-    const LowLevelStatement* const statement = FindStatement(keyword);
+    const LowLevelStatement* const statement = FindLowLevelStatement(keyword);
     if (statement == nullptr) {
         return "não é um corpo que se conheça";
     }
