@@ -87,6 +87,19 @@ TEST(BuildSymbolRows, TakesAPolygonOf255CornersAndNot256) {
                               "curvas e polilinhas.");
 }
 
+// Its sides, which are as many as its corners: there is no head.
+TEST(BuildSymbolRows, TakesTheOutlineOfAPolygonOf256CornersAndNot257) {
+    const Rows rows = BuildSymbolRows(Drawn({Polygon(256, false)})).rows;
+    ASSERT_EQ(rows.size(), 256U);
+    EXPECT_EQ(rows.front(), (SymbolRow{1, 0, 0.5, 1, 0.5, 0}));
+    EXPECT_EQ(rows.back(), (SymbolRow{1, 255, 0.5, 0, 0.5, 0}));
+    const SymbolRowsResult refused = BuildSymbolRows(Drawn({Polygon(257, false)}));
+    EXPECT_FALSE(refused.ok);
+    EXPECT_TRUE(refused.rows.empty());
+    EXPECT_EQ(refused.advice, "Ele precisa de 257 linhas de dados e o limite e 256. Simplifique "
+                              "curvas e polilinhas.");
+}
+
 TEST(BuildSymbolRows, CountsTheRowsOfAllStrokes) {
     const SymbolStroke line = {.kind = Kind::Line, .points = {{0, 0}, {1, 0}}};
     EXPECT_TRUE(BuildSymbolRows(Drawn(std::vector<SymbolStroke>(256, line))).ok);

@@ -69,6 +69,27 @@ TEST(PartFolder, HoldsScriptsAndPicturesAsTheyAre) {
               "\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<CalledMacros/>\n");
 }
 
+TEST(PartFolder, NamesAndMarksPicturesByTheirKind) {
+    PartDocument part;
+    part.pictures = {{true, 0, "image/gif", "GIF89a", ""},
+                     {false, 1, "image/svg+xml", "<svg/>", ""},
+                     {false, 2, "image/gif", "GIF87a", ""}};
+    const std::vector<PartFile> files = MakePartFiles(part);
+    EXPECT_EQ(BytesOf(files, "images/Picture_0.gif"), "GIF89a");
+    EXPECT_EQ(BytesOf(files, "images/GDLPict_1.svg"), "<svg/>");
+    EXPECT_EQ(BytesOf(files, "images/GDLPict_2.gif"), "GIF87a");
+    const std::string declared = BytesOf(files, "libpartdata.xml");
+    for (const char* line :
+         {"\t<Picture MIME=\"image/gif\" Name=\"Picture_0.gif\" SectVersion=\"19\" "
+          "SectionFlags=\"0\" SubIdent=\"0\"/>\n",
+          "\t<GDLPict MIME=\"image/svg+xml\" Name=\"GDLPict_1.svg\" SectVersion=\"19\" "
+          "SectionFlags=\"1\" SubIdent=\"1\"/>\n",
+          "\t<GDLPict MIME=\"image/gif\" Name=\"GDLPict_2.gif\" SectVersion=\"19\" "
+          "SectionFlags=\"0\" SubIdent=\"2\"/>\n"}) {
+        EXPECT_NE(declared.find(line), std::string::npos) << line << declared;
+    }
+}
+
 TEST(PartFolder, TellsWhatHasNoPlaceInIt) {
     PartDocument part = MakeFullPart();
     part.texts.push_back({"3DSC", 2, ""});

@@ -55,6 +55,35 @@ TEST(PartXml, GivesTheConverterPicturesByNameAndNothingOfOurOwn) {
     EXPECT_EQ(WritePartXml(read, XmlUse::Converter), xml);
 }
 
+TEST(PartXml, MarksDrawingsAmongThePictures) {
+    PartDocument part;
+    part.mainGuid = NumberedGuid(1);
+    part.pictures = {{true, 0, "image/gif", "GIF89a", ""},
+                     {false, 1, "image/svg+xml", "<svg/>", ""},
+                     {false, 2, "image/gif", "GIF89a", ""},
+                     {false, 3, "image/svg", "<svg/>", ""}};
+    const auto has = [](const std::string& xml, const std::string& piece) {
+        return xml.find(piece) != std::string::npos;
+    };
+    const std::string converter = WritePartXml(part, XmlUse::Converter);
+    for (const char* line :
+         {"<Picture MIME=\"image/gif\" SectVersion=\"19\" SectionFlags=\"0\" SubIdent=\"0\" "
+          "path=\"Picture_0.gif\"/>\n",
+          "<GDLPict MIME=\"image/svg+xml\" SectVersion=\"19\" SectionFlags=\"1\" SubIdent=\"1\" "
+          "path=\"GDLPict_1.svg\"/>\n",
+          "<GDLPict MIME=\"image/gif\" SectVersion=\"19\" SectionFlags=\"0\" SubIdent=\"2\" "
+          "path=\"GDLPict_2.gif\"/>\n",
+          "<GDLPict MIME=\"image/svg\" SectVersion=\"19\" SectionFlags=\"1\" SubIdent=\"3\" "
+          "path=\"GDLPict_3.svg\"/>\n"}) {
+        EXPECT_TRUE(has(converter, line)) << line << converter;
+    }
+    const std::string own = WritePartXml(part);
+    EXPECT_TRUE(has(own, "<GDLPict MIME=\"image/svg+xml\" SectVersion=\"19\" SectionFlags=\"1\" "
+                         "SubIdent=\"1\">\n"))
+        << own;
+    EXPECT_EQ(ReadBack(own), part);
+}
+
 /// A part as the host's converter writes one.
 constexpr const char* Foreign = R"(<?xml version="1.0" encoding="UTF-8"?>
 <Symbol IsArchivable="false" IsPlaceable="true" MainGUID="3C0D6A1E-52B7-4B0E-9A64-7F1C5D2E8A90" MigrationValue="Normal" Owner="0" Signature="1196644685" Version="46">
