@@ -1,10 +1,11 @@
 #include "Text/FileBytes.hpp"
 
-#include <array>
-#include <cstdio>
+#include <cstddef>
 #include <filesystem>
-#include <memory>
+#include <random>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 #include "Text/NativeFile.hpp"
 #include "Text/NativePath.hpp"
@@ -13,13 +14,9 @@ namespace Merivane::Text {
 
 namespace {
 
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using FileHandle = std::unique_ptr<std::FILE, CloseFile>;
+constexpr std::size_t ReadAtOnce = std::size_t{128} * 1024; // bytes; stays in the processor's cache
 
-bool WriteAndClose(const std::wstring& path, std::string_view bytes, bool sync) {
-    FileHandle file(OpenFile(path, FileMode::Write));
+bool WriteAndClose(FileHandle file, std::string_view bytes, bool sync) {
     if (!file) {
         return false;
     }
@@ -29,6 +26,18 @@ bool WriteAndClose(const std::wstring& path, std::string_view bytes, bool sync) 
         written = FlushToDisk(file.get()) && written;
     }
     return std::fclose(file.release()) == 0 && written;
+}
+
+/// A name beside a file that nobody guesses.
+std::wstring FreshNameBeside(const std::wstring& path) {
+    constexpr int Digits = 16;
+    std::random_device random;
+    std::uniform_int_distribution<std::size_t> digit(0, 15);
+    std::wstring name = path + L".parcial-";
+    for (int i = 0; i < Digits; ++i) {
+        name += L"0123456789abcdef"[digit(random)];
+    }
+    return name;
 }
 
 } // namespace
@@ -43,28 +52,42 @@ bool ReadFileBytes(const std::wstring& path, std::string& bytes) {
     if (!file) {
         return false;
     }
-    std::array<char, 65536> buffer;
+    return ReadBlocks(file.get(), [&bytes](std::string_view block) {
+        bytes.append(block);
+        return true;
+    });
+}
+
+bool ReadBlocks(std::FILE* file, const TakeBlock& take) {
+    std::setvbuf(file, nullptr, _IONBF, 0); // straight into the buffer below
+    std::vector<char> buffer(ReadAtOnce);
     std::size_t count = 0;
-    while ((count = std::fread(buffer.data(), 1, buffer.size(), file.get())) > 0) {
-        bytes.append(buffer.data(), count);
+    while ((count = std::fread(buffer.data(), 1, buffer.size(), file)) > 0) {
+        if (!take({buffer.data(), count})) {
+            return false;
+        }
     }
-    return std::ferror(file.get()) == 0;
+    return std::ferror(file) == 0;
 }
 
 bool WriteFileBytes(const std::wstring& path, std::string_view bytes) {
-    return WriteAndClose(path, bytes, false);
+    return WriteAndClose(FileHandle(OpenFile(path, FileMode::Write)), bytes, false);
 }
 
 bool WriteFileFlushed(const std::wstring& path, std::string_view bytes) {
-    return WriteAndClose(path, bytes, true);
+    return WriteAndClose(FileHandle(OpenFile(path, FileMode::Write)), bytes, true);
 }
 
 bool ReplaceFile(const std::wstring& path, std::string_view bytes) {
     std::error_code code;
     const std::filesystem::path linked = std::filesystem::canonical(NativePath(path), code);
     const std::wstring target = code ? path : WidePath(linked); // no file yet: no link to follow
-    const std::wstring beside = target + L".parcial";
-    if (WriteFileFlushed(beside, bytes) && RenameOver(beside, target)) {
+    const std::wstring beside = FreshNameBeside(target);
+    FileHandle file(OpenFile(beside, FileMode::Create));
+    if (!file) {
+        return false; // nothing of ours stands there
+    }
+    if (WriteAndClose(std::move(file), bytes, true) && RenameOver(beside, target)) {
         return true;
     }
     RemoveFile(beside);

@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include "Support/Places.hpp"
 #include "Text/FileBytes.hpp"
+#include "Text/NativeFile.hpp"
 #include "Text/Utf8.hpp"
 
 namespace Merivane::Text {
@@ -138,12 +141,68 @@ TEST(ReplaceFile, LeavesEverythingAsItWasWhenItFails) {
 
 TEST(ReplaceFile, KeepsTheOldFileWhenTheNewOneCannotBeWritten) {
     const TemporaryFolder folder;
-    const auto path = folder.Path() / "a.txt";
+    // The longest name that a file may have: the file beside can't be made.
+    const auto path = folder.Path() / std::string(255, 'n');
     WriteBytes(path, "old");
-    // What stands in the way of the file beside makes its writing fail, as a full disk does.
-    std::filesystem::create_directory(folder.Path() / "a.txt.parcial");
     EXPECT_FALSE(ReplaceFile(Wide(path), "new"));
     EXPECT_EQ(ReadBytes(path), "old");
+    EXPECT_EQ(FileCount(folder.Path()), 1);
+}
+
+TEST(ReplaceFile, TouchesNothingThatStandsBeside) {
+    const TemporaryFolder folder;
+    const auto outside = folder.Path() / "outside";
+    WriteBytes(outside, "kept");
+    std::filesystem::create_symlink(outside, folder.Path() / "a.txt.parcial");
+    ASSERT_TRUE(ReplaceFile(Wide(folder.Path() / "a.txt"), "new"));
+    EXPECT_EQ(ReadBytes(folder.Path() / "a.txt"), "new");
+    EXPECT_FALSE(std::filesystem::is_symlink(folder.Path() / "a.txt"));
+    EXPECT_EQ(ReadBytes(outside), "kept");
+    EXPECT_EQ(FileCount(folder.Path()), 3);
+}
+
+TEST(OpenFile, CreatesOnlyWhereNothingStands) {
+    const TemporaryFolder folder;
+    WriteBytes(folder.Path() / "there", "kept");
+    std::filesystem::create_symlink("there", folder.Path() / "link");
+    std::filesystem::create_symlink("none", folder.Path() / "broken");
+    for (const char* name : {"there", "link", "broken"}) {
+        const FileHandle file(OpenFile(Wide(folder.Path() / name), FileMode::Create));
+        EXPECT_EQ(file, nullptr) << name;
+    }
+    EXPECT_EQ(ReadBytes(folder.Path() / "there"), "kept");
+    EXPECT_NE(FileHandle(OpenFile(Wide(folder.Path() / "new"), FileMode::Create)), nullptr);
+    EXPECT_EQ(FileCount(folder.Path()), 4);
+}
+
+TEST(OpenPlainFile, OpensNothingElseAndWaitsForNoPipe) {
+    const TemporaryFolder folder;
+    WriteBytes(folder.Path() / "there", "bytes");
+    std::filesystem::create_symlink("there", folder.Path() / "link");
+    ASSERT_EQ(::mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
+    for (const char* name : {"there", "link"}) {
+        const FileHandle file(OpenPlainFile(Wide(folder.Path() / name)));
+        ASSERT_NE(file, nullptr) << name;
+        EXPECT_EQ(RealPathOf(file.get()),
+                  Wide(std::filesystem::canonical(folder.Path() / "there")));
+    }
+    for (const auto& path : {folder.Path(), folder.Path() / "pipe", folder.Path() / "none",
+                             std::filesystem::path("/dev/zero")}) {
+        EXPECT_EQ(FileHandle(OpenPlainFile(Wide(path))), nullptr) << path;
+    }
+}
+
+TEST(ReadBlocks, StopsWhereNoMoreIsWanted) {
+    const TemporaryFolder folder;
+    WriteBytes(folder.Path() / "a", std::string(1000000, 'a'));
+    const FileHandle file(OpenPlainFile(Wide(folder.Path() / "a")));
+    std::size_t taken = 0;
+    EXPECT_FALSE(ReadBlocks(file.get(), [&taken](std::string_view block) {
+        taken += block.size();
+        return taken < 200000;
+    }));
+    EXPECT_GE(taken, 200000U);
+    EXPECT_LT(taken, 1000000U);
 }
 
 } // namespace

@@ -14,11 +14,20 @@ TEST(FileNameOf, IsANameOnEverySystem) {
         std::string name;
     };
     const std::vector<Case> cases = {
-        {"Sala 1", "Sala 1"},   {"a<b>c:d\"e/f\\g|h?i*j\tk", "a-b-c-d-e-f-g-h-i-j-k"},
-        {"  meio. . ", "meio"}, {"", "_"},
-        {"...", "_"},           {".oculto", "_.oculto"},
-        {"-x", "_-x"},          {"nul.txt", "_nul.txt"},
-        {"Com3", "_Com3"},      {"Com", "Com"},
+        {"Sala 1", "Sala 1"},
+        {"a<b>c:d\"e/f\\g|h?i*j\tk", "a-b-c-d-e-f-g-h-i-j-k"},
+        {"  meio. . ", "meio"},
+        {"", "_"},
+        {"...", "_"},
+        {".oculto", "_.oculto"},
+        {"-x", "_-x"},
+        {"nul.txt", "_nul.txt"},
+        {"Com3", "_Com3"},
+        {"Com", "Com"},
+        {"con .txt", "_con .txt"},
+        {"lpt\xC2\xB2", "_lpt\xC2\xB2"},
+        {"conin$", "_conin$"},
+        {"com10", "com10"},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(FileNameOf(c.title), c.name) << c.title;
