@@ -15,9 +15,9 @@
 #include <string>
 #include <vector>
 
+#include "Catalog/CatalogFetch.hpp"
 #include "Catalog/Sha256.hpp"
 #include "Catalog/Sha256Blocks.hpp"
-#include "Text/NativePath.hpp"
 
 namespace {
 
@@ -33,9 +33,12 @@ struct Contender {
 };
 
 int PrintDigest(const char* file) {
+    const std::filesystem::path path = std::filesystem::absolute(file);
     Catalog::FileDigest digest;
-    if (!Catalog::DigestFile(Text::WidePath(file), digest)) {
-        std::fprintf(stderr, "can't read %s\n", file);
+    std::string error;
+    if (!Catalog::DigestCatalogFile(path.parent_path().string(), path.filename().string(), digest,
+                                    error)) {
+        std::fprintf(stderr, "%s\n", error.c_str());
         return 1;
     }
     std::printf("%s\n", digest.sha256.c_str());

@@ -35,7 +35,7 @@ void TryPath(const std::string& path) {
         return;
     }
     const std::filesystem::path place = (std::filesystem::path("/base") / path).lexically_normal();
-    Require(place.string().starts_with("/base"));
+    Require(place.string().starts_with("/base/") && place.has_filename());
 }
 
 void TryProduct(const CatalogProduct& product) {

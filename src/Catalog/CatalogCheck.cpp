@@ -16,23 +16,37 @@ struct ProductCheck {
     const std::string& address;
     const CatalogProduct& product;
     const HttpFetch& http;
+    const StopAsked& stopAsked;
     CatalogCheck& check;
 
-    void Find(std::string text) const { check.findings.push_back({product.id, std::move(text)}); }
+    bool Stopped() const {
+        check.stopped = check.stopped || IsStopped(stopAsked);
+        return check.stopped;
+    }
+
+    /// What a fetch that was stopped says is no finding.
+    void Find(std::string text) const {
+        if (!Stopped()) {
+            check.findings.push_back({product.id, std::move(text)});
+        }
+    }
 };
 
 void CheckFile(const ProductCheck& run, const CatalogFile& file, std::string_view key) {
+    if (run.Stopped()) {
+        return;
+    }
     if (file.path.empty()) {
         run.Find(std::string(key) + ": " + FileNotListed());
         return;
     }
-    if (!IsInnerPath(file.path)) {
-        run.Find(PathLeavesCatalog(file.path));
+    if (const PathFault fault = FaultOfPath(file.path); fault != PathFault::None) {
+        run.Find(RefusedPath(fault, file.path));
         return;
     }
     FileDigest digest;
     std::string error;
-    if (!DigestCatalogFile(run.address, file.path, digest, error, run.http)) {
+    if (!DigestCatalogFile(run.address, file.path, digest, error, run.http, run.stopAsked)) {
         run.Find(error);
         return;
     }
@@ -46,14 +60,21 @@ void CheckFile(const ProductCheck& run, const CatalogFile& file, std::string_vie
 
 /// The package's own record, from which the index is rebuilt.
 void CheckRecord(const ProductCheck& run) {
-    const std::string path = ProductPackageFolder(run.product.id) + "/produto.json";
+    const std::string folder = ProductPackageFolder(run.product.id);
+    if (!IsInnerPath(folder)) {
+        run.Find("o Windows nao aceita a pasta \"" + folder +
+                 "\": um dos nomes e reservado para dispositivos");
+        return;
+    }
+    const std::string path = folder + "/produto.json";
     const FetchResult fetched = FetchCatalogFile(run.address, path, run.http);
     if (!fetched.ok) {
         run.Find(fetched.error);
         return;
     }
     JsonValue value;
-    if (const JsonParseResult parsed = JsonParse(fetched.bytes, value); !parsed.ok) {
+    if (const JsonParseResult parsed = JsonParse(fetched.bytes, value, MostProductValues);
+        !parsed.ok) {
         run.Find("produto.json invalido: " + parsed.error);
         return;
     }
@@ -68,8 +89,10 @@ void CheckRecord(const ProductCheck& run) {
     }
 }
 
-void CheckProduct(const ProductCheck& run) {
-    if (IsValidProductAddress(run.product.id)) {
+void CheckProduct(const ProductCheck& run, bool isRepeated) {
+    if (isRepeated) {
+        run.Find("endereco repetido no catalogo"); // its record is that of the first
+    } else if (IsValidProductAddress(run.product.id)) {
         CheckRecord(run);
     } else {
         run.Find("endereco de produto invalido");
@@ -85,7 +108,8 @@ void CheckProduct(const ProductCheck& run) {
 } // namespace
 
 CatalogCheck CheckCatalog(const std::string& address, const CatalogIndex& index,
-                          const CheckProgress& progress, const HttpFetch& http) {
+                          const CheckProgress& progress, const HttpFetch& http,
+                          const StopAsked& stopAsked) {
     CatalogCheck check;
     if (index.incomplete > 0) {
         check.findings.push_back(
@@ -93,16 +117,13 @@ CatalogCheck CheckCatalog(const std::string& address, const CatalogIndex& index,
     }
     std::set<std::string_view> seen;
     for (std::size_t i = 0; i < index.products.size(); ++i) {
-        if (!progress(i, index.products.size())) {
-            check.stopped = true;
+        const CatalogProduct& product = index.products[i];
+        const ProductCheck run{address, product, http, stopAsked, check};
+        if (run.Stopped()) {
             break;
         }
-        const CatalogProduct& product = index.products[i];
-        if (seen.insert(product.id).second) {
-            CheckProduct({address, product, http, check});
-        } else {
-            check.findings.push_back({product.id, "endereco repetido no catalogo"});
-        }
+        progress(i, index.products.size());
+        CheckProduct(run, !seen.insert(product.id).second);
     }
     return check;
 }

@@ -26,13 +26,15 @@ struct CatalogCheck {
     bool stopped = false;        ///< before its end, by the caller
 };
 
-/// Asked before each product how many of all are done; false stops the check.
-using CheckProgress = std::function<bool(std::size_t done, std::size_t all)>;
+/// Told before each product how many of all are done.
+using CheckProgress = std::function<void(std::size_t done, std::size_t all)>;
 
 /// Holds a whole catalogue to its index: every listed file to its size and digest, every package's
 /// `produto.json` to its entry, every address to its form. The cache plays no part, and nothing is
-/// fetched by a path that would leave the catalogue.
+/// fetched by a path that would leave the catalogue. Stops between two files and within a file of a
+/// folder as soon as `stopAsked` says so; within a file of the web that is the affair of `http`.
 CatalogCheck CheckCatalog(const std::string& address, const CatalogIndex& index,
-                          const CheckProgress& progress, const HttpFetch& http = HttpGet);
+                          const CheckProgress& progress, const HttpFetch& http = HttpGet,
+                          const StopAsked& stopAsked = {});
 
 } // namespace Merivane::Catalog

@@ -1,14 +1,14 @@
 #include "Catalog/CatalogFetch.hpp"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "Catalog/CatalogAddress.hpp"
 #include "Catalog/CatalogCache.hpp"
+#include "Catalog/HttpAnswer.hpp"
 #include "Catalog/InnerPath.hpp"
 #include "Text/FileBytes.hpp"
+#include "Text/NativeFile.hpp"
 #include "Text/NativePath.hpp"
 #include "Text/Utf8.hpp"
 
@@ -24,36 +24,50 @@ std::string NotFound(const std::string& path) {
     return "arquivo nao encontrado: " + path;
 }
 
-/// Finds a plain file below the folder of a local catalogue. False with the reason.
-bool LocateInFolder(const std::string& folder, std::string_view relativePath, std::wstring& file,
-                    std::string& error) {
+/// Opens a plain file below the folder of a local catalogue, first, and looks where it stands then:
+/// whatever is put in its place meanwhile is not what is read. Null with the reason in `error`.
+Text::FileHandle OpenInFolder(const std::string& folder, std::string_view relativePath,
+                              std::string& error) {
     const std::string path = ResolveInCatalog(folder, relativePath);
-    file = Text::Widen(path);
     relativePath.remove_prefix(std::min(relativePath.find_first_not_of('/'), relativePath.size()));
-    std::error_code code;
-    const std::filesystem::path place = Text::NativePath(file);
-    const bool exists = std::filesystem::exists(place, code);
-    if (!IsInnerPath(relativePath) ||
-        (exists && !LeadsInside(Text::NativePath(Text::Widen(folder)), place))) {
-        error = PathLeavesCatalog(relativePath);
-        return false;
+    if (const PathFault fault = FaultOfPath(relativePath); fault != PathFault::None) {
+        error = RefusedPath(fault, relativePath);
+        return nullptr;
     }
-    if (!std::filesystem::is_regular_file(place, code)) {
+    Text::FileHandle file(Text::OpenPlainFile(Text::Widen(path)));
+    if (!file) {
         error = NotFound(path);
-        return false;
+        return nullptr;
     }
-    return true;
+    if (!StandsBelow(Text::NativePath(Text::Widen(folder)),
+                     Text::NativePath(Text::RealPathOf(file.get())))) {
+        error = RefusedPath(PathFault::LinkLeadsOut, relativePath);
+        return nullptr;
+    }
+    return file;
 }
 
-FetchResult ReadInFolder(const std::string& folder, std::string_view relativePath) {
-    std::wstring file;
-    std::string error;
-    if (!LocateInFolder(folder, relativePath, file, error)) {
-        return Failed(error);
+/// Reads a file below the folder of a local catalogue, block by block. False with the reason.
+bool ReadInFolder(const std::string& folder, std::string_view relativePath,
+                  const Text::TakeBlock& take, std::string& error) {
+    const Text::FileHandle file = OpenInFolder(folder, relativePath, error);
+    if (!file) {
+        return false;
     }
-    FetchResult result;
-    result.ok = Text::ReadFileBytes(file, result.bytes);
-    return result.ok ? result : Failed(NotFound(ResolveInCatalog(folder, relativePath)));
+    error = NotFound(ResolveInCatalog(folder, relativePath));
+    std::uint64_t length = 0;
+    const bool read = Text::ReadBlocks(file.get(), [&](std::string_view block) {
+        length += block.size();
+        if (length > LargestCatalogFile) {
+            error = TooLargeText(LargestCatalogFile);
+            return false;
+        }
+        return take(block);
+    });
+    if (read) {
+        error.clear();
+    }
+    return read;
 }
 
 FileDigest DigestOf(std::string_view bytes) {
@@ -64,10 +78,16 @@ FileDigest DigestOf(std::string_view bytes) {
 
 FetchResult FetchCatalogFile(const std::string& address, std::string_view relativePath,
                              const HttpFetch& http) {
+    FetchResult local;
     if (!IsRemoteAddress(address)) {
-        return ReadInFolder(address, relativePath);
+        const auto append = [&local](std::string_view block) {
+            local.bytes.append(block);
+            return true;
+        };
+        local.ok = ReadInFolder(address, relativePath, append, local.error);
+        return local.ok ? local : Failed(std::move(local.error));
     }
-    HttpResult fetched = http(ResolveInCatalog(address, relativePath), LargestRemoteFile);
+    HttpResult fetched = http(ResolveInCatalog(address, relativePath), LargestCatalogFile);
     return {fetched.ok, std::move(fetched.body), std::move(fetched.error)};
 }
 
@@ -94,27 +114,37 @@ FetchResult FetchVerifiedFile(const std::string& address, const CatalogFile& fil
 }
 
 bool DigestCatalogFile(const std::string& address, std::string_view relativePath,
-                       FileDigest& digest, std::string& error, const HttpFetch& http) {
+                       FileDigest& digest, std::string& error, const HttpFetch& http,
+                       const StopAsked& stopAsked) {
     if (IsRemoteAddress(address)) {
-        const FetchResult fetched = FetchCatalogFile(address, relativePath, http);
-        error = fetched.error;
-        digest = DigestOf(fetched.bytes);
+        FetchResult fetched = FetchCatalogFile(address, relativePath, http);
+        if (fetched.ok) {
+            digest = DigestOf(fetched.bytes);
+        } else {
+            error = std::move(fetched.error);
+        }
         return fetched.ok;
     }
-    std::wstring file;
-    if (!LocateInFolder(address, relativePath, file, error)) {
+    Sha256Run run;
+    std::string reason;
+    const auto add = [&](std::string_view block) {
+        Sha256Add(run, block);
+        if (IsStopped(stopAsked)) {
+            reason = StoppedText();
+            return false;
+        }
+        return true;
+    };
+    if (!ReadInFolder(address, relativePath, add, reason)) {
+        error = std::move(reason);
         return false;
     }
-    error = NotFound(ResolveInCatalog(address, relativePath));
-    return DigestFile(file, digest);
+    digest = {run.length, Sha256Hex(run)};
+    return true;
 }
 
 std::string FileNotListed() {
     return "o catalogo nao lista este arquivo";
-}
-
-std::string PathLeavesCatalog(std::string_view path) {
-    return "o catalogo lista um caminho que sai da pasta dele: " + std::string(path);
 }
 
 std::string MismatchOf(const CatalogFile& file, const FileDigest& fetched) {

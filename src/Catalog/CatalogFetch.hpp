@@ -8,6 +8,7 @@
 #include "Catalog/CatalogProduct.hpp"
 #include "Catalog/HttpClient.hpp"
 #include "Catalog/Sha256.hpp"
+#include "Catalog/StopAsked.hpp"
 
 /// The files of a catalogue, from a folder or from the web. `address` is a normalised base, see
 /// `NormalizeCatalogAddress`.
@@ -23,8 +24,8 @@ struct FetchResult {
 /// How files come from the web: `HttpGet`, or another way in its place.
 using HttpFetch = std::function<HttpResult(const std::string& url, std::uint64_t maxBytes)>;
 
-/// Most that a file of the web may hold [bytes].
-inline constexpr std::uint64_t LargestRemoteFile = std::uint64_t{256} << 20;
+/// Most that a file of a catalogue may hold, of the web as of a folder [bytes].
+inline constexpr std::uint64_t LargestCatalogFile = std::uint64_t{256} << 20;
 
 /// Fetches a file by its path, without any check of what it holds. A path that would leave the
 /// folder of a local catalogue, also by a link, is refused and nothing is read.
@@ -37,15 +38,21 @@ FetchResult FetchCatalogFile(const std::string& address, std::string_view relati
 FetchResult FetchVerifiedFile(const std::string& address, const CatalogFile& file,
                               const HttpFetch& http = HttpGet);
 
-/// Size and digest of what a file holds now, the cache aside; the file of a folder is not held in
-/// memory. Returns false with `error` when it can't be fetched.
-bool DigestCatalogFile(const std::string& address, std::string_view relativePath,
-                       FileDigest& digest, std::string& error, const HttpFetch& http = HttpGet);
+/// What stands in a file.
+struct FileDigest {
+    std::uint64_t size = 0; ///< [bytes]
+    std::string sha256;
+};
 
-/// The sentence on a file that the index has no path for, and on a path that leads out of the
-/// catalogue.
+/// Size and digest of what a file holds now, the cache aside; the file of a folder is not held in
+/// memory, and is left where `stopAsked` says so. Returns true and sets `digest`, or returns false
+/// and sets `error`; the other stays as it was.
+bool DigestCatalogFile(const std::string& address, std::string_view relativePath,
+                       FileDigest& digest, std::string& error, const HttpFetch& http = HttpGet,
+                       const StopAsked& stopAsked = {});
+
+/// The sentence on a file that the index has no path for.
 std::string FileNotListed();
-std::string PathLeavesCatalog(std::string_view path);
 
 /// How what was fetched differs from what the index lists, as one sentence; empty when it does not.
 /// A size or a digest that is not listed is not compared; letter case counts.

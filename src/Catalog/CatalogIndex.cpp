@@ -28,7 +28,7 @@ struct SortedProduct {
 
 CatalogIndex ParseCatalogIndex(std::string_view bytes) {
     JsonValue root;
-    if (const JsonParseResult parsed = JsonParse(bytes, root); !parsed.ok) {
+    if (const JsonParseResult parsed = JsonParse(bytes, root, MostIndexValues); !parsed.ok) {
         return Refused("catalogo.json invalido: " + parsed.error);
     }
     const JsonValue* const products = root.Find("produtos");
@@ -44,7 +44,7 @@ CatalogIndex ParseCatalogIndex(std::string_view bytes) {
     }
     CatalogIndex index;
     index.updated = root.StringOr("atualizado", "");
-    index.products.reserve(products->items.size());
+    // No place is kept for all items: what is no product needs none.
     for (const JsonValue& item : products->items) {
         CatalogProduct product;
         if (ReadCatalogProduct(item, product) && !product.part.hash.empty()) {

@@ -16,6 +16,10 @@ inline constexpr std::string_view CatalogIndexName = "catalogo.json";
 /// The format that is written, and the highest one that is understood.
 inline constexpr int CatalogFormat = 1;
 
+/// Most JSON values that an index may hold, about 200,000 products: a file of the size that may be
+/// fetched could fill the memory a dozen times over.
+inline constexpr std::size_t MostIndexValues = 8000000;
+
 /// Keys of the preference store, both UTF-8 without header or terminator: the folder of the last
 /// export, and the address of the last catalogue that loaded, normalised.
 inline constexpr std::string_view CatalogRootKey = "MVCATR01";

@@ -6,6 +6,7 @@
 #include "Catalog/JsonNumbers.hpp"
 #include "Catalog/ProductAddress.hpp"
 #include "Text/Ascii.hpp"
+#include "Text/FileName.hpp"
 
 namespace Merivane::Catalog {
 
@@ -71,13 +72,18 @@ JsonValue WriteFiles(const CatalogProduct& product) {
     return files;
 }
 
+/// [lm/W], never beyond the numbers that can be written.
+double Efficacy(const CatalogProduct& product) {
+    constexpr double Largest = std::numeric_limits<double>::max();
+    return product.power > 0.0 ? std::clamp(product.flux / product.power, -Largest, Largest) : 0.0;
+}
+
 /// `name` with "-" in place of each character that some system refuses in file names.
 std::string WithoutForbidden(std::string_view name) {
-    constexpr std::string_view Forbidden = "<>:\"/\\|?*";
     constexpr unsigned char FirstPrintable = 32;
     std::string clean(name);
     for (char& c : clean) {
-        if (Forbidden.find(c) != std::string_view::npos ||
+        if (Text::RefusedInFileNames.find(c) != std::string_view::npos ||
             static_cast<unsigned char>(c) < FirstPrintable) {
             c = '-';
         }
@@ -132,10 +138,9 @@ JsonValue WriteCatalogProduct(const CatalogProduct& product) {
     if (product.colourRendering > 0.0) {
         value.Set("ra", JsonValue::MakeNumber(product.colourRendering));
     }
-    const double efficacy = product.power > 0.0 ? product.flux / product.power : 0.0;
     value.Set("fluxo_lm", JsonValue::MakeNumber(RoundTo(product.flux, 1)));
     value.Set("potencia_w", JsonValue::MakeNumber(RoundTo(product.power, 3)));
-    value.Set("eficacia_lm_w", JsonValue::MakeNumber(RoundTo(efficacy, 1)));
+    value.Set("eficacia_lm_w", JsonValue::MakeNumber(RoundTo(Efficacy(product), 1)));
     value.Set("abertura", WriteOpening(product));
     value.Set("bloco", JsonText(product.block));
     value.Set("archicad", JsonValue::MakeNumber(product.hostVersion));

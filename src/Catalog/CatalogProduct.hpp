@@ -46,24 +46,32 @@ struct CatalogProduct {
     bool operator==(const CatalogProduct&) const = default;
 };
 
+/// Most JSON values that the file of a product may hold, its list of macros included.
+inline constexpr std::size_t MostProductValues = 100000;
+
 /// Reads a product. Members that are missing or of a wrong type get the defaults, numbers beyond a
 /// field's range its nearest end. Returns false for what is no object, has no `id` or does not name
-/// the file of its library part.
+/// the file of its library part; `product` then holds what could be read.
 bool ReadCatalogProduct(const JsonValue& value, CatalogProduct& product);
 
 /// The JSON of a product, its members in their published order. The flux is rounded to 1 decimal,
-/// the power to 3; the efficacy [lm/W] is written for readers and never read back.
+/// the power to 3; the efficacy [lm/W], the largest number where it is larger than any, is written
+/// for readers and never read back. A product whose numbers are finite has no `null` in it.
 JsonValue WriteCatalogProduct(const CatalogProduct& product);
 
 /// The version for a new export: 1 for a product that was never published, one more than
-/// `previous` when the library part's bytes have changed.
+/// `previous` when the library part's bytes have changed. Never fails; the highest version of all
+/// stays.
 std::int32_t NextProductVersion(const std::optional<CatalogProduct>& previous,
                                 std::string_view partHash);
 
 /// The block's name without the counts that saving again puts behind it: "Spot_1_2" to "Spot".
+/// Empty for one of blanks alone.
 std::string CleanBlockName(std::string_view text);
 
-/// The file name of a product's part in a library.
+/// The file name of a product's part in a library, with ".gsm" behind it: the block's name, or that
+/// of its address where nothing of it can stand in a file name. Never a path; ".gsm" alone for a
+/// product that has neither.
 std::string LibraryFileName(const CatalogProduct& product);
 
 /// The product's name as lists show it: code and name, or what there is of them, or the block's.

@@ -33,7 +33,7 @@ const char* Words(NetworkFailure failure) {
 } // namespace
 
 HttpResult HttpGet(const std::string& url, std::uint64_t maxBytes) {
-    return HttpGetWith(url, maxBytes, HttpTimeouts{});
+    return HttpGetWith(url, maxBytes, HttpTimeouts{}, {});
 }
 
 void SetFailure(HttpResult& result, NetworkFailure failure) {
@@ -48,6 +48,14 @@ void SetInvalidAddress(HttpResult& result, const std::string& url) {
     result.error = "endereco invalido: " + url;
 }
 
+std::string TooLargeText(std::uint64_t maxBytes) {
+    return "arquivo grande demais (mais de " + std::to_string(maxBytes / BytesPerMegabyte) + " MB)";
+}
+
+std::string StoppedText() {
+    return "a busca foi interrompida";
+}
+
 bool CanBeAddress(std::string_view url) {
     const auto isControl = [](char c) {
         const auto byte = static_cast<unsigned char>(c);
@@ -58,8 +66,7 @@ bool CanBeAddress(std::string_view url) {
 
 bool AppendToBody(HttpResult& result, std::string_view bytes, std::uint64_t maxBytes) {
     if (bytes.size() > maxBytes - result.body.size()) {
-        result.error = "arquivo grande demais (mais de " +
-                       std::to_string(maxBytes / BytesPerMegabyte) + " MB)";
+        result.error = TooLargeText(maxBytes);
         return false;
     }
     result.body.append(bytes);

@@ -33,6 +33,10 @@ void SetFailureNumber(HttpResult& result, std::uint32_t number);
 /// Sets `error` to the words for a text that is no address.
 void SetInvalidAddress(HttpResult& result, const std::string& url);
 
+/// The words for a file longer than `maxBytes`, and for one that nobody waits for any more.
+std::string TooLargeText(std::uint64_t maxBytes);
+std::string StoppedText();
+
 /// True for UTF-8 without control characters: anything else is no address, and could end a line of
 /// the request.
 bool CanBeAddress(std::string_view url);

@@ -4,14 +4,18 @@
 #include <cstdint>
 #include <string>
 
+#include "Catalog/StopAsked.hpp"
+
 namespace Merivane::Catalog {
 
 /// What a fetch brought.
 struct HttpResult {
-    bool ok = false;          ///< a complete body with status 200, and only that
-    std::uint32_t status = 0; ///< of the last answer, after redirects; 0 when none came
-    std::string body;         ///< what was received, also of an answer that is not ok
-    std::string error;        ///< one Portuguese sentence without accents; empty when ok
+    bool ok = false; ///< a complete body with status 200, and only that
+    /// Of the last answer, after redirects; 0 when none came, and behind a redirect that can't be
+    /// followed: to no address of the web, or the eleventh.
+    std::uint32_t status = 0;
+    std::string body;  ///< what was received, also of an answer that is not ok
+    std::string error; ///< one Portuguese sentence without accents; empty when ok
 
     bool operator==(const HttpResult&) const = default;
 };
@@ -33,8 +37,10 @@ struct HttpTimeouts {
     std::chrono::milliseconds receive{60000}; ///< of silence before and within the answer
 };
 
-/// `HttpGet` with other time-outs, for tests that can't wait a minute.
-HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes,
-                       const HttpTimeouts& timeouts);
+/// `HttpGet` with other time-outs, for tests that can't wait a minute, and for a caller who may not
+/// want to wait for it: `stopAsked` is asked several times a second, on Windows with each part of
+/// the body. A fetch that is stopped is not ok.
+HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes, const HttpTimeouts& timeouts,
+                       const StopAsked& stopAsked = {});
 
 } // namespace Merivane::Catalog

@@ -3,6 +3,7 @@
 
 #include "Catalog/HttpClient.hpp"
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
@@ -13,6 +14,7 @@
 
 #include "Catalog/HttpAnswer.hpp"
 #include "Catalog/HttpTransferPosix.hpp"
+#include "Text/Ascii.hpp"
 
 namespace Merivane::Catalog {
 
@@ -70,6 +72,15 @@ bool IsWebScheme(const std::string& scheme) {
     return scheme == "http" || scheme == "https";
 }
 
+/// False for "http:/name" and "http:///name", also as "https": the library forgives them, nobody
+/// else does. True for what does not begin with a scheme of the web.
+bool BeginsWell(const std::string& url) {
+    const std::size_t colon = url.find(':');
+    const std::string_view rest = std::string_view(url).substr(std::min(colon, url.size()));
+    return !IsWebScheme(Text::ToLower(url.substr(0, colon))) ||
+           (rest.starts_with("://") && !rest.starts_with(":///"));
+}
+
 /// Null for a text that is no address of the web.
 AddressHandle ParseAddress(const std::string& url) {
     AddressHandle address(curl_url());
@@ -79,11 +90,7 @@ AddressHandle ParseAddress(const std::string& url) {
         curl_url_set(address.get(), CURLUPART_URL, url.c_str(), flags) != CURLUE_OK) {
         return nullptr;
     }
-    // The library forgives "http:/name" and "http:///name", nobody else does.
-    const std::string scheme = Part(address.get(), CURLUPART_SCHEME);
-    std::string_view rest = url;
-    rest.remove_prefix(scheme.size());
-    if (!IsWebScheme(scheme) || !rest.starts_with("://") || rest.starts_with(":///")) {
+    if (!IsWebScheme(Part(address.get(), CURLUPART_SCHEME)) || !BeginsWell(url)) {
         return nullptr;
     }
     return address;
@@ -166,7 +173,7 @@ void Conclude(CURL* easy, CURLcode code, const std::string& url, HttpResult& res
     curl_easy_getinfo(easy, CURLINFO_RESPONSE_CODE, &status);
     result.status = static_cast<std::uint32_t>(status);
     if (!result.error.empty()) {
-        return; // the body did not fit
+        return; // it was broken off here
     }
     if (code == CURLE_OK) {
         JudgeStatus(result, url);
@@ -183,14 +190,15 @@ bool IsSecure(CURLU* address) {
 
 /// Moves `address` to where an answer sends us; false when that is no address of the web.
 bool Move(CURLU* address, const std::string& location) {
-    return curl_url_set(address, CURLUPART_URL, location.c_str(), AddressFlags) == CURLUE_OK &&
+    return BeginsWell(location) &&
+           curl_url_set(address, CURLUPART_URL, location.c_str(), AddressFlags) == CURLUE_OK &&
            IsWebScheme(Part(address, CURLUPART_SCHEME));
 }
 
 } // namespace
 
-HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes,
-                       const HttpTimeouts& timeouts) {
+HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes, const HttpTimeouts& timeouts,
+                       const StopAsked& stopAsked) {
     const Utf8Locale names;
     HttpResult result;
     const AddressHandle address = ParseAddress(url);
@@ -202,8 +210,9 @@ HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes,
     for (int redirects = 0;; ++redirects) {
         const EasyHandle easy(curl_easy_init());
         SetRequest(easy.get(), address.get(), headers.get(), timeouts);
-        const CURLcode code = RunTransfer(easy.get(), maxBytes, timeouts, result);
-        const std::string location = code == CURLE_WRITE_ERROR ? Location(easy.get()) : "";
+        const CURLcode code = RunTransfer(easy.get(), {maxBytes, timeouts, stopAsked}, result);
+        const bool isRedirect = code == CURLE_WRITE_ERROR && result.error.empty();
+        const std::string location = isRedirect ? Location(easy.get()) : "";
         if (location.empty()) {
             Conclude(easy.get(), code, url, result);
             return result;

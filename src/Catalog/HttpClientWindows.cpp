@@ -150,9 +150,14 @@ std::uint64_t AnnouncedLength(HINTERNET request) {
 }
 
 /// Reads the body to its end. False, with `error` set, when it broke off or does not fit.
-bool ReadBody(HINTERNET request, std::uint64_t maxBytes, HttpResult& result) {
+bool ReadBody(HINTERNET request, std::uint64_t maxBytes, const StopAsked& stopAsked,
+              HttpResult& result) {
     std::string buffer(BufferSize, '\0');
     for (;;) {
+        if (IsStopped(stopAsked)) {
+            result.error = StoppedText();
+            return false;
+        }
         DWORD count = 0;
         if (WinHttpReadData(request, buffer.data(), BufferSize, &count) == FALSE) {
             SetLastFailure(result);
@@ -169,8 +174,8 @@ bool ReadBody(HINTERNET request, std::uint64_t maxBytes, HttpResult& result) {
 
 } // namespace
 
-HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes,
-                       const HttpTimeouts& timeouts) {
+HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes, const HttpTimeouts& timeouts,
+                       const StopAsked& stopAsked) {
     HttpResult result;
     Address address;
     if (!ParseAddress(url, address)) {
@@ -195,7 +200,7 @@ HttpResult HttpGetWith(const std::string& url, std::uint64_t maxBytes,
         SetLastFailure(result);
         return result;
     }
-    if (!ReadBody(request.Get(), maxBytes, result)) {
+    if (!ReadBody(request.Get(), maxBytes, stopAsked, result)) {
         return result;
     }
     JudgeStatus(result, url);

@@ -3,6 +3,7 @@
 
 #include "Catalog/HttpTransferPosix.hpp"
 
+#include <algorithm>
 #include <new>
 #include <string_view>
 
@@ -18,6 +19,8 @@ using std::chrono::milliseconds;
 
 constexpr long FirstRedirectStatus = 300;
 constexpr long FirstErrorStatus = 400;
+constexpr std::uint32_t AnswerTooLarge = 100; // CURLE_TOO_LARGE, which older headers don't name
+constexpr milliseconds BetweenQuestions{200}; // whether to stop
 
 /// A transfer's place in a multi handle, which alone lets a caller wait with a clock of its own.
 class MultiHandle {
@@ -45,7 +48,9 @@ enum class Step { Resolve, Connect, Send, Receive };
 struct Transfer {
     CURL* easy = nullptr;
     HttpResult& result;
-    std::uint64_t maxBytes = 0;
+    const TransferLimits& limits;
+    std::uint64_t headBytes = 0; ///< received beside the body
+    std::uint64_t bodyBytes = 0; ///< the body as it came, its chunks' own lines included
     Step step = Step::Resolve;
     Clock::time_point quietSince = Clock::now(); ///< begin of the step, or its last sign of life
 };
@@ -89,6 +94,9 @@ int OnConnected(void* transfer, char*, char*, int, int) {
 /// The only place where the library tells that the request has left.
 int OnTrace(CURL*, curl_infotype kind, char* bytes, std::size_t size, void* data) {
     auto& transfer = *static_cast<Transfer*>(data);
+    if (kind == CURLINFO_DATA_IN) {
+        transfer.bodyBytes += size;
+    }
     if (transfer.step == Step::Send && kind == CURLINFO_HEADER_OUT &&
         std::string_view(bytes, size).ends_with("\r\n\r\n")) {
         Enter(transfer, Step::Receive);
@@ -97,10 +105,15 @@ int OnTrace(CURL*, curl_infotype kind, char* bytes, std::size_t size, void* data
 }
 
 /// Ends the transfer behind the head of a redirect: what follows is for readers of pages, and may
-/// have no end.
+/// have no end. Nor may heads and trailers.
 std::size_t OnHeaderLine(char* bytes, std::size_t, std::size_t size, void* data) {
-    const auto& transfer = *static_cast<const Transfer*>(data);
+    auto& transfer = *static_cast<Transfer*>(data);
     const std::string_view line(bytes, size);
+    transfer.headBytes += size;
+    if (transfer.headBytes > LargestHead) {
+        SetFailureNumber(transfer.result, AnswerTooLarge);
+        return 0;
+    }
     const bool isEndOfHead = line == "\r\n" || line == "\n";
     return isEndOfHead && !Location(transfer.easy).empty() ? 0 : size;
 }
@@ -108,7 +121,7 @@ std::size_t OnHeaderLine(char* bytes, std::size_t, std::size_t size, void* data)
 std::size_t OnBody(char* bytes, std::size_t, std::size_t size, void* data) {
     auto& transfer = *static_cast<Transfer*>(data);
     try {
-        return AppendToBody(transfer.result, {bytes, size}, transfer.maxBytes) ? size : 0;
+        return AppendToBody(transfer.result, {bytes, size}, transfer.limits.maxBytes) ? size : 0;
     } catch (const std::bad_alloc&) {
         SetFailureNumber(transfer.result, CURLE_OUT_OF_MEMORY);
         return 0;
@@ -132,8 +145,22 @@ void SetCallbacks(CURL* easy, Transfer& transfer) {
     curl_easy_setopt(easy, CURLOPT_WRITEDATA, &transfer);
 }
 
+/// True where lines between the chunks of a body go on and on: even in chunks of one byte each it
+/// is but a sixth of what comes.
+bool IsAllChunkLines(const Transfer& transfer) {
+    constexpr std::uint64_t WorstShare = 8;
+    return transfer.bodyBytes > LargestHead + WorstShare * transfer.result.body.size();
+}
+
+/// How long nothing need be looked at but the connection.
+milliseconds LongestWait(const Transfer& transfer) {
+    const milliseconds left = std::chrono::ceil<milliseconds>(
+        Deadline(transfer, transfer.limits.timeouts) - Clock::now());
+    return transfer.limits.stopAsked ? std::min(left, BetweenQuestions) : left;
+}
+
 /// Runs the transfer to its end or to the end of our patience.
-CURLcode Run(Transfer& transfer, const HttpTimeouts& timeouts) {
+CURLcode Run(Transfer& transfer) {
     const MultiHandle multi(transfer.easy);
     for (;;) {
         int running = 0;
@@ -145,8 +172,15 @@ CURLcode Run(Transfer& transfer, const HttpTimeouts& timeouts) {
             const CURLMsg* message = curl_multi_info_read(multi.Get(), &left);
             return message != nullptr ? message->data.result : CURLE_FAILED_INIT;
         }
-        const milliseconds left =
-            std::chrono::ceil<milliseconds>(Deadline(transfer, timeouts) - Clock::now());
+        if (IsStopped(transfer.limits.stopAsked)) {
+            transfer.result.error = StoppedText();
+            return CURLE_WRITE_ERROR;
+        }
+        if (IsAllChunkLines(transfer)) {
+            SetFailureNumber(transfer.result, AnswerTooLarge);
+            return CURLE_WRITE_ERROR;
+        }
+        const milliseconds left = LongestWait(transfer);
         if (left <= milliseconds::zero()) {
             return CURLE_OPERATION_TIMEDOUT;
         }
@@ -160,11 +194,10 @@ CURLcode Run(Transfer& transfer, const HttpTimeouts& timeouts) {
 
 } // namespace
 
-CURLcode RunTransfer(CURL* easy, std::uint64_t maxBytes, const HttpTimeouts& timeouts,
-                     HttpResult& result) {
-    Transfer transfer{easy, result, maxBytes};
+CURLcode RunTransfer(CURL* easy, const TransferLimits& limits, HttpResult& result) {
+    Transfer transfer{easy, result, limits};
     SetCallbacks(easy, transfer);
-    return Run(transfer, timeouts);
+    return Run(transfer);
 }
 
 std::string Location(CURL* easy) {

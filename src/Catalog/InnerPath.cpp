@@ -2,72 +2,93 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <string>
 #include <system_error>
 
-#include "Text/Ascii.hpp"
+#include "Text/FileName.hpp"
+#include "Text/ShownText.hpp"
 
 namespace Merivane::Catalog {
 
 namespace {
-
-// Windows takes these names for devices in every folder, whatever their extension.
-constexpr std::string_view Devices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$", "CLOCK$"};
-constexpr std::string_view NumberedDevices[] = {"COM", "LPT"};
-
-/// A digit as the names of ports end in, also a raised 1, 2 or 3.
-bool IsPortNumber(std::string_view text) {
-    return (text.size() == 1 && Text::IsDigit(text[0])) || text == "\xC2\xB9" ||
-           text == "\xC2\xB2" || text == "\xC2\xB3";
-}
-
-bool NamesDevice(std::string_view part) {
-    const std::string name = Text::ToUpper(Text::Trim(part.substr(0, part.find('.'))));
-    if (std::find(std::begin(Devices), std::end(Devices), name) != std::end(Devices)) {
-        return true;
-    }
-    return std::any_of(std::begin(NumberedDevices), std::end(NumberedDevices),
-                       [&name](std::string_view device) {
-                           return name.starts_with(device) &&
-                                  IsPortNumber(std::string_view{name}.substr(device.size()));
-                       });
-}
 
 /// ".." as Windows reads it: points and blanks at the end of a name don't count there.
 bool LeadsUp(std::string_view part) {
     return part.size() > 1 && part.find_first_not_of(". ") == std::string_view::npos;
 }
 
+/// What is wrong with a whole path, its parts aside.
+PathFault FaultOfBytes(std::string_view path) {
+    constexpr unsigned char FirstPrintable = 32;
+    if (std::any_of(path.begin(), path.end(),
+                    [](char c) { return static_cast<unsigned char>(c) < FirstPrintable; })) {
+        return PathFault::ControlCharacter;
+    }
+    if (path.starts_with('/')) {
+        return PathFault::LeadsOut;
+    }
+    if (path.find('\\') != std::string_view::npos) {
+        return PathFault::BackSlash;
+    }
+    return path.find(':') != std::string_view::npos ? PathFault::Colon : PathFault::None;
+}
+
+const char* Words(PathFault fault) {
+    switch (fault) {
+    case PathFault::None:
+        break;
+    case PathFault::LeadsOut:
+        return "um caminho que sai da pasta dele";
+    case PathFault::LinkLeadsOut:
+        return "um caminho que um atalho leva para fora da pasta dele";
+    case PathFault::NoFileName:
+        return "um caminho que nao termina no nome de um arquivo";
+    case PathFault::BackSlash:
+        return "um caminho com barra invertida";
+    case PathFault::Colon:
+        return "um caminho com dois-pontos";
+    case PathFault::ControlCharacter:
+        return "um caminho com um caractere de controle";
+    case PathFault::DeviceName:
+        return "um nome que o Windows reserva para dispositivos";
+    }
+    return "um caminho";
+}
+
 } // namespace
 
-bool IsInnerPath(std::string_view path) {
-    constexpr unsigned char FirstPrintable = 32;
-    const bool hasOddBytes = std::any_of(path.begin(), path.end(), [](char c) {
-        return c == '\\' || c == ':' || static_cast<unsigned char>(c) < FirstPrintable;
-    });
-    if (path.empty() || path.front() == '/' || hasOddBytes) {
-        return false;
+PathFault FaultOfPath(std::string_view path) {
+    if (const PathFault fault = FaultOfBytes(path); fault != PathFault::None) {
+        return fault;
     }
+    std::string_view part;
     for (std::size_t start = 0; start <= path.size();) {
         const std::size_t end = std::min(path.find('/', start), path.size());
-        const std::string_view part = path.substr(start, end - start);
-        if (LeadsUp(part) || NamesDevice(part)) {
-            return false;
+        part = path.substr(start, end - start);
+        if (LeadsUp(part)) {
+            return PathFault::LeadsOut;
+        }
+        if (Text::IsDeviceName(part)) {
+            return PathFault::DeviceName;
         }
         start = end + 1;
     }
-    return true;
+    const bool hasName = part.find_first_not_of(". ") != std::string_view::npos;
+    return hasName ? PathFault::None : PathFault::NoFileName;
 }
 
-bool LeadsInside(const std::filesystem::path& folder, const std::filesystem::path& file) {
+std::string RefusedPath(PathFault fault, std::string_view path) {
+    return std::string("o catalogo lista ") + Words(fault) + ": \"" + Text::ShownText(path) + '"';
+}
+
+bool IsInnerPath(std::string_view path) {
+    return FaultOfPath(path) == PathFault::None;
+}
+
+bool StandsBelow(const std::filesystem::path& folder, const std::filesystem::path& realPath) {
     std::error_code code;
     const std::filesystem::path root = std::filesystem::canonical(folder, code);
-    if (code) {
-        return false;
-    }
-    const std::filesystem::path target = std::filesystem::canonical(file, code);
-    return !code && root != target &&
-           std::mismatch(root.begin(), root.end(), target.begin(), target.end()).first ==
+    return !code && root != realPath &&
+           std::mismatch(root.begin(), root.end(), realPath.begin(), realPath.end()).first ==
                root.end();
 }
 

@@ -113,10 +113,15 @@ struct JsonParseResult {
     std::string error;
 };
 
+/// No bound on the values of a document; one value takes about 100 bytes in memory, and 2 of text.
+inline constexpr std::size_t AnyNumberOfValues = static_cast<std::size_t>(-1);
+
 /// Reads a whole document, with or without a byte order mark: one value, white space around it.
 /// Arrays and objects nest 64 deep at most; a repeated key keeps its first place and its last
-/// value; numbers that no double can hold are refused. On failure `value` must not be used.
-JsonParseResult JsonParse(std::string_view text, JsonValue& value);
+/// value; numbers that no double can hold are refused, and so are documents of more than
+/// `mostValues` values, those inside of others counted too. On failure `value` must not be used.
+JsonParseResult JsonParse(std::string_view text, JsonValue& value,
+                          std::size_t mostValues = AnyNumberOfValues);
 
 /// Liberties in the form of a written document.
 struct JsonWriteOptions {

@@ -18,7 +18,8 @@ constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 // read; one that refuses leaves it at the byte it can't accept, with the reason in `message`.
 class Parser {
 public:
-    explicit Parser(std::string_view document) : text(document) {}
+    Parser(std::string_view document, std::size_t mostValues)
+        : text(document), valuesLeft(mostValues) {}
 
     JsonParseResult ParseDocument(JsonValue& value);
 
@@ -43,6 +44,7 @@ private:
 
     std::string_view text;
     std::size_t position = 0;
+    std::size_t valuesLeft;
     std::string_view message;
 };
 
@@ -81,6 +83,10 @@ bool Parser::ParseValue(JsonValue& value, int depth) {
     if (AtEnd()) {
         return Fail("fim inesperado");
     }
+    if (valuesLeft == 0) {
+        return Fail("valores demais");
+    }
+    --valuesLeft;
     switch (text[position]) {
     case '{':
         return ParseObject(value, depth);
@@ -285,9 +291,9 @@ bool Parser::ParseNumber(JsonValue& value) {
 
 } // namespace
 
-JsonParseResult JsonParse(std::string_view text, JsonValue& value) {
+JsonParseResult JsonParse(std::string_view text, JsonValue& value, std::size_t mostValues) {
     value = JsonValue();
-    return Parser(text).ParseDocument(value);
+    return Parser(text, mostValues).ParseDocument(value);
 }
 
 } // namespace Merivane::Catalog

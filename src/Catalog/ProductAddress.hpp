@@ -18,7 +18,8 @@ std::string ProductAddress(std::string_view manufacturer, std::string_view code,
 /// of them "." or "..". Whatever reaches a path from an address in a file must pass this first.
 bool IsValidProductAddress(std::string_view text);
 
-/// The folder of a product in its catalogue: "pacotes/<fabricante>/<nome>".
+/// The folder of a product in its catalogue: "pacotes/<fabricante>/<nome>". The address is taken as
+/// it is: a valid one stays below "pacotes", but may be the name of a device on Windows.
 std::string ProductPackageFolder(std::string_view address);
 
 /// The address behind its first "/"; the whole of one that has none.

@@ -1,24 +1,15 @@
 #include "Catalog/Sha256.hpp"
 
 #include <algorithm>
-#include <cstdio>
-#include <memory>
-#include <vector>
 
 #include "Catalog/Sha256Blocks.hpp"
 #include "Text/Hex.hpp"
-#include "Text/NativeFile.hpp"
 
 namespace Merivane::Catalog {
 
 namespace {
 
-constexpr std::size_t LengthBytes = 8;                      // of the message's length at its end
-constexpr std::size_t ReadAtOnce = std::size_t{128} * 1024; // stays in the processor's cache
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
+constexpr std::size_t LengthBytes = 8; // of the message's length at its end
 
 void TakeBlocks(Sha256State& state, const unsigned char* blocks, std::size_t count) {
     static const BlockFunction Take =
@@ -80,25 +71,6 @@ std::string Sha256Hex(std::string_view bytes) {
     Sha256Run run;
     Sha256Add(run, bytes);
     return Sha256Hex(run);
-}
-
-bool DigestFile(const std::wstring& path, FileDigest& digest) {
-    const std::unique_ptr<std::FILE, CloseFile> file(Text::OpenFile(path, Text::FileMode::Read));
-    if (!file) {
-        return false;
-    }
-    std::setvbuf(file.get(), nullptr, _IONBF, 0); // straight into the buffer below
-    std::vector<char> buffer(ReadAtOnce);
-    Sha256Run run;
-    std::size_t count = 0;
-    while ((count = std::fread(buffer.data(), 1, buffer.size(), file.get())) > 0) {
-        Sha256Add(run, {buffer.data(), count});
-    }
-    if (std::ferror(file.get()) != 0) {
-        return false;
-    }
-    digest = {run.length, Sha256Hex(run)};
-    return true;
 }
 
 } // namespace Merivane::Catalog

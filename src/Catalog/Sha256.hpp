@@ -26,14 +26,4 @@ std::string Sha256Hex(const Sha256Run& run);
 /// The digest of these bytes.
 std::string Sha256Hex(std::string_view bytes);
 
-/// What stands in a file.
-struct FileDigest {
-    std::uint64_t size = 0; ///< [bytes]
-    std::string sha256;
-};
-
-/// Reads a file through to its end, holding a small part of it at a time. Returns false when it
-/// can't be opened or read; `digest` is then untouched.
-bool DigestFile(const std::wstring& path, FileDigest& digest);
-
 } // namespace Merivane::Catalog

@@ -44,8 +44,9 @@ std::string Row(std::string_view manufacturer, std::string_view name, std::strin
                 std::string_view flux, std::string_view power) {
     return PadRight(Shortened(manufacturer, ManufacturerWidth), ManufacturerWidth) + "  " +
            PadRight(Shortened(name, NameWidth), NameWidth) + "  " +
-           PadRight(Shortened(lamp, LampWidth), LampWidth) + "  " + PadLeft(flux, FluxWidth) +
-           "  " + PadLeft(power, PowerWidth);
+           PadRight(Shortened(lamp, LampWidth), LampWidth) + "  " +
+           PadLeft(Shortened(flux, FluxWidth), FluxWidth) + "  " +
+           PadLeft(Shortened(power, PowerWidth), PowerWidth);
 }
 
 std::string Amount(double value, int decimals) {
@@ -56,6 +57,29 @@ std::string FindingLine(const CatalogFinding& finding) {
     const std::string text =
         finding.product.empty() ? finding.text : finding.product + ": " + finding.text;
     return Text::ShownText(text);
+}
+
+/// A text as it is, or as it can be shown where it holds what no JSON text or no terminal may.
+void MakePlain(std::string& text) {
+    if (!Text::IsPlainText(text)) {
+        text = Text::ShownText(text);
+    }
+}
+
+CatalogProduct PlainProduct(CatalogProduct product) {
+    for (std::string* text : {&product.id, &product.updated, &product.manufacturer, &product.code,
+                              &product.description, &product.lamp, &product.block}) {
+        MakePlain(*text);
+    }
+    for (Catalog::CatalogFile* file :
+         {&product.part, &product.ies, &product.curve, &product.image}) {
+        MakePlain(file->path);
+        MakePlain(file->hash);
+    }
+    for (std::string& macro : product.macros) {
+        MakePlain(macro);
+    }
+    return product;
 }
 
 JsonValue Count(std::size_t number) {
@@ -91,7 +115,7 @@ JsonValue CatalogListJson(const CatalogSelection& products) {
     JsonValue list = JsonValue::MakeArray();
     list.items.reserve(products.size());
     for (const CatalogProduct* product : products) {
-        list.items.push_back(Catalog::WriteCatalogProduct(*product));
+        list.items.push_back(Catalog::WriteCatalogProduct(PlainProduct(*product)));
     }
     return list;
 }
@@ -120,6 +144,7 @@ JsonValue CatalogCheckJson(const std::string& address, const CatalogIndex& index
     report.Set("atualizado", JsonValue::MakeString(Text::ShownText(index.updated)));
     report.Set("produtos", Count(index.products.size()));
     report.Set("arquivos", Count(check.files));
+    report.Set("sem_sha256", Count(check.withoutHash));
     JsonValue& findings = report.Set("problemas", JsonValue::MakeArray());
     for (const CatalogFinding& finding : check.findings) {
         JsonValue entry = JsonValue::MakeObject();

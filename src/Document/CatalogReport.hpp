@@ -23,14 +23,16 @@ std::vector<std::string> CatalogListLines(const CatalogSelection& products);
 /// were left out: one sentence.
 std::string CatalogSummary(const Catalog::CatalogIndex& index);
 
-/// The products as a list of the records of `produto.json`.
+/// The products as a list of the records of `produto.json`, their texts without control characters
+/// and bytes that are not UTF-8.
 Catalog::JsonValue CatalogListJson(const CatalogSelection& products);
 
 /// One line for each finding, then one with the counts.
 std::vector<std::string> CatalogCheckLines(const Catalog::CatalogCheck& check);
 
-/// `endereco`, `atualizado`, `produtos` (how many), `arquivos` (how many are as listed), and
-/// `problemas`, a list of `produto` (null = the catalogue as a whole) and `texto`.
+/// `endereco`, `atualizado`, `produtos` (how many), `arquivos` (how many are as listed),
+/// `sem_sha256` (how many of these have no digest in the index to be held to), and `problemas`, a
+/// list of `produto` (null = the catalogue as a whole) and `texto`.
 Catalog::JsonValue CatalogCheckJson(const std::string& address, const Catalog::CatalogIndex& index,
                                     const Catalog::CatalogCheck& check);
 

@@ -1,3 +1,4 @@
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <string>
@@ -8,6 +9,7 @@
 #include "Catalog/CatalogCheck.hpp"
 #include "Catalog/CatalogFetch.hpp"
 #include "Catalog/CatalogIndex.hpp"
+#include "Catalog/HttpClient.hpp"
 #include "Catalog/Json.hpp"
 #include "Catalog/ProductFilter.hpp"
 #include "Document/CatalogReport.hpp"
@@ -36,8 +38,37 @@ std::string BaseAddress(const std::string& text) {
     return Catalog::NormalizeCatalogAddress(Text::Narrow(Text::WidePath(folder)));
 }
 
+/// True for what is no folder of this computer and reads like an address of the web without its
+/// beginning: "github.com/luz/catalogo", "ftp://luz.com.br".
+bool IsMeantForTheWeb(const std::string& text) {
+    std::error_code code;
+    if (std::filesystem::exists(Text::NativePath(Text::Widen(text)), code)) {
+        return false;
+    }
+    const std::string host = text.substr(0, text.find('/'));
+    const std::size_t point = host.find('.');
+    const bool hasDomain = point != std::string::npos && point > 0 && point + 1 < host.size();
+    return text.find("://") != std::string::npos || hasDomain;
+}
+
+/// Says why the index could not be fetched.
+void TellNotLoaded(const std::string& text, const std::string& address, const std::string& error) {
+    const std::string sentence = "não foi possível carregar: " + error;
+    const std::string place = Catalog::ResolveInCatalog(address, Catalog::CatalogIndexName);
+    if (error.ends_with(place)) {
+        TellErrorAtAddress(sentence);
+    } else {
+        TellError(sentence);
+    }
+    const std::string typed = Catalog::NormalizeCatalogAddress(text);
+    if (!Catalog::IsRemoteAddress(address) && IsMeantForTheWeb(typed)) {
+        TellError("um endereço da internet começa com https:// ou http://; " +
+                  Text::QuotedText(typed) + " foi lido como uma pasta deste computador");
+    }
+}
+
 /// Reads the index. False when there is none that can be used; the user was told why.
-bool LoadIndex(const std::string& address, Catalog::CatalogIndex& index) {
+bool LoadIndex(const std::string& text, const std::string& address, Catalog::CatalogIndex& index) {
     if (address.empty()) {
         TellError("informe o endereço do catálogo");
         return false;
@@ -45,7 +76,7 @@ bool LoadIndex(const std::string& address, Catalog::CatalogIndex& index) {
     const Catalog::FetchResult fetched =
         Catalog::FetchCatalogFile(address, Catalog::CatalogIndexName);
     if (!fetched.ok) {
-        TellError("não foi possível carregar: " + fetched.error);
+        TellNotLoaded(text, address, fetched.error);
         return false;
     }
     index = Catalog::ParseCatalogIndex(fetched.bytes);
@@ -62,12 +93,14 @@ Catalog::CatalogCheck CheckWithProgress(const std::string& address,
     if (progress.style == ProgressStyle::Lines) {
         progress.style = ProgressStyle::None; // one line that tells nothing new
     }
-    Catalog::CatalogCheck check =
-        Catalog::CheckCatalog(address, index, [&progress](std::size_t done, std::size_t all) {
-            TellProgress(progress, 0, "Verificando o catálogo",
-                         static_cast<double>(done) / static_cast<double>(all));
-            return !Interrupted();
-        });
+    const auto tell = [&progress](std::size_t done, std::size_t all) {
+        TellProgress(progress, 0, "Verificando o catálogo",
+                     static_cast<double>(done) / static_cast<double>(all));
+    };
+    const auto fetch = [](const std::string& url, std::uint64_t maxBytes) {
+        return Catalog::HttpGetWith(url, maxBytes, Catalog::HttpTimeouts{}, Interrupted);
+    };
+    Catalog::CatalogCheck check = Catalog::CheckCatalog(address, index, tell, fetch, Interrupted);
     EndProgress(progress);
     return check;
 }
@@ -102,7 +135,7 @@ std::string SoughtText(const ListCatalogArguments& arguments) {
 int CheckCatalogCommand(const CheckCatalogArguments& arguments) {
     const std::string address = BaseAddress(arguments.address);
     Catalog::CatalogIndex index;
-    if (!LoadIndex(address, index)) {
+    if (!LoadIndex(arguments.address, address, index)) {
         return StatusFailed;
     }
     CatchInterrupts(); // not before: a server that is silent on the index can be left at once
@@ -124,7 +157,7 @@ int CheckCatalogCommand(const CheckCatalogArguments& arguments) {
 
 int ListCatalogCommand(const ListCatalogArguments& arguments) {
     Catalog::CatalogIndex index;
-    if (!LoadIndex(BaseAddress(arguments.address), index)) {
+    if (!LoadIndex(arguments.address, BaseAddress(arguments.address), index)) {
         return StatusFailed;
     }
     const std::string query = JoinWords(arguments.words);

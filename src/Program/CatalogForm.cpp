@@ -5,7 +5,7 @@ namespace Merivane::Program {
 namespace {
 
 void AddAddress(CLI::App& command, std::string& address) {
-    command.add_option("ORIGEM", address, "Pasta do catálogo, ou seu endereço na internet")
+    command.add_option("PASTA|ENDEREÇO", address, "Pasta do catálogo, ou seu endereço na internet")
         ->required()
         ->type_name("");
 }

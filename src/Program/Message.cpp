@@ -18,6 +18,12 @@ void TellError(std::string_view sentence) {
     Put(sentence.ends_with('.') || sentence.ends_with('?') ? "\n" : ".\n", stderr);
 }
 
+void TellErrorAtAddress(std::string_view sentence) {
+    Put("vantoro: ", stderr);
+    Put(sentence, stderr);
+    Put("\n", stderr);
+}
+
 void TellLine(std::string_view line) {
     Put(line, stdout);
     Put("\n", stdout);

@@ -8,7 +8,7 @@
 namespace Merivane::Catalog {
 namespace {
 
-struct Case {
+struct AddressCase {
     std::string text;
     std::string expected;
 };
@@ -39,7 +39,7 @@ TEST(CatalogAddress, IsRemoteByItsScheme) {
 }
 
 TEST(CatalogAddress, TakesAFolderAsItIsPasted) {
-    const Case cases[] = {
+    const AddressCase cases[] = {
         {"", ""},
         {" \t\r\n\"' ", ""},
         {"  \"/dados/catalogo\"\r\n", "/dados/catalogo"},
@@ -56,13 +56,13 @@ TEST(CatalogAddress, TakesAFolderAsItIsPasted) {
         {"/x?y#z", "/x?y#z"}, // signs of a web address mean nothing in a folder
         {"ftp://a/catalogo.json", "ftp://a"},
     };
-    for (const Case& c : cases) {
+    for (const AddressCase& c : cases) {
         EXPECT_EQ(NormalizeCatalogAddress(c.text), c.expected) << c.text;
     }
 }
 
 TEST(CatalogAddress, TakesAWebAddressWithoutItsTail) {
-    const Case cases[] = {
+    const AddressCase cases[] = {
         {"https://luz.example/cat", "https://luz.example/cat/"},
         {"https://luz.example/cat/", "https://luz.example/cat/"},
         {" 'HTTPS://Luz.example/Cat' ", "HTTPS://Luz.example/Cat/"},
@@ -75,14 +75,14 @@ TEST(CatalogAddress, TakesAWebAddressWithoutItsTail) {
         {"http://?", "http://"},
         {"http:///catalogo.json", "http:///"},
     };
-    for (const Case& c : cases) {
+    for (const AddressCase& c : cases) {
         EXPECT_EQ(NormalizeCatalogAddress(c.text), c.expected) << c.text;
     }
 }
 
 TEST(CatalogAddress, TurnsARepositoryPageIntoItsBareFiles) {
     const std::string raw = "https://raw.githubusercontent.com/";
-    const Case cases[] = {
+    const AddressCase cases[] = {
         {"https://github.com/luz/cat", raw + "luz/cat/main/"},
         {"http://www.GitHub.com/Luz/Cat/", raw + "Luz/Cat/main/"},
         {"https://github.com/luz/cat.git", raw + "luz/cat/main/"},
@@ -108,7 +108,7 @@ TEST(CatalogAddress, TurnsARepositoryPageIntoItsBareFiles) {
         {"https://luz.example/github.com/a/b", "https://luz.example/github.com/a/b/"},
         {raw + "luz/cat/main/catalogo.json", raw + "luz/cat/main/"},
     };
-    for (const Case& c : cases) {
+    for (const AddressCase& c : cases) {
         EXPECT_EQ(NormalizeCatalogAddress(c.text), c.expected) << c.text;
     }
 }

@@ -26,8 +26,6 @@ std::vector<std::string> Below(const fs::path& folder) {
     return names;
 }
 
-} // namespace
-
 TEST(CatalogCache, StandsInTheUsersFolderForCaches) {
 
     struct Case {
@@ -90,14 +88,27 @@ TEST(CatalogCache, WritesAndReadsNothingOutside) {
     fs::create_symlink(outside / "b", cache / "arquivo");
     fs::create_symlink(outside / "novo", cache / "partido");
     const std::vector<std::string> before = Below(folder.Path());
-    for (const std::string path : {"../fora/b", "../x", "/x", "elo/b", "elo/novo/x", "arquivo",
-                                   "partido", "partido/x", "a\\b", "C:x", "nul", "", "elo"}) {
+    for (const std::string path :
+         {"../fora/b", "../x", "/x", "elo/b", "elo/novo/x", "arquivo", "partido", "partido/x",
+          "a\\b", "C:x", "nul", "", "elo", ".", "a/"}) {
         std::string bytes;
         EXPECT_FALSE(StoreCached(Text::WidePath(cache), path, "depois")) << path;
         EXPECT_FALSE(ReadCached(Text::WidePath(cache), path, bytes)) << path;
     }
     EXPECT_EQ(Below(folder.Path()), before);
     EXPECT_EQ(Tests::ReadBytes(outside / "b"), "antes");
+}
+
+TEST(CatalogCache, FollowsNoLinkThatStandsBesideACopy) {
+    const Tests::TemporaryFolder folder;
+    const fs::path cache = folder.Path() / "cache";
+    fs::create_directories(cache);
+    Tests::WriteBytes(folder.Path() / "fora", "antes");
+    fs::create_symlink(folder.Path() / "fora", cache / "a.gsm.parcial");
+    EXPECT_TRUE(StoreCached(Text::WidePath(cache), "a.gsm", "depois"));
+    EXPECT_EQ(Tests::ReadBytes(cache / "a.gsm"), "depois");
+    EXPECT_EQ(Tests::ReadBytes(folder.Path() / "fora"), "antes");
+    EXPECT_EQ(Below(cache), (std::vector<std::string>{"a.gsm", "a.gsm.parcial"}));
 }
 
 TEST(CatalogCache, LeavesTheOldCopyWhereItCannotWrite) {
@@ -110,4 +121,5 @@ TEST(CatalogCache, LeavesTheOldCopyWhereItCannotWrite) {
     EXPECT_EQ(Tests::ReadBytes(folder.Path() / "a"), "um");
 }
 
+} // namespace
 } // namespace Merivane::Catalog

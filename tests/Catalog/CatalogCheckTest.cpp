@@ -8,6 +8,8 @@
 #include "Catalog/CatalogAddress.hpp"
 #include "Catalog/CatalogCheck.hpp"
 #include "Catalog/CatalogSamples.hpp"
+#include "Catalog/InnerPath.hpp"
+#include "Catalog/ProductAddress.hpp"
 #include "Support/Places.hpp"
 
 namespace Merivane::Catalog {
@@ -15,9 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool GoOn(std::size_t /*done*/, std::size_t /*all*/) {
-    return true;
-}
+void GoOn(std::size_t /*done*/, std::size_t /*all*/) {}
 
 /// A true catalogue in a folder, to be made a liar.
 class CatalogCheckOfAFolder : public testing::Test {
@@ -48,8 +48,6 @@ protected:
 };
 
 using Texts = std::vector<std::string>;
-
-} // namespace
 
 TEST_F(CatalogCheckOfAFolder, FindsNothingInATrueOne) {
     const CatalogCheck check = Check();
@@ -133,6 +131,29 @@ TEST_F(CatalogCheckOfAFolder, TellsOfAddressesThatAreNone) {
 TEST_F(CatalogCheckOfAFolder, TellsOfAnAddressThatComesAgain) {
     products.push_back(products[0]);
     EXPECT_EQ(Findings(), Texts{"endereco repetido no catalogo"});
+    EXPECT_EQ(Check().files, 7U) << "its files are checked, its record is that of the first";
+    products[1].part.size = 1;
+    EXPECT_EQ(Findings(), (Texts{"endereco repetido no catalogo",
+                                 "pacotes/luz/ab-12/ab-12.gsm veio com 14 bytes, o catalogo diz 1 "
+                                 "(download incompleto, ou o catalogo nao foi atualizado junto)"}));
+}
+
+TEST_F(CatalogCheckOfAFolder, TellsOfAFolderThatWindowsDoesNotTake) {
+    products[0].id = ProductAddress("Aux", "AB-12", "", "", "");
+    ASSERT_TRUE(IsValidProductAddress(products[0].id));
+    EXPECT_EQ(Findings(),
+              Texts{"o Windows nao aceita a pasta \"pacotes/aux/ab-12\": um dos nomes e "
+                    "reservado para dispositivos"});
+    EXPECT_EQ(Check().files, 3U);
+}
+
+TEST_F(CatalogCheckOfAFolder, RefusesARecordOfTooManyValues) {
+    std::string zeros = "[0";
+    for (std::size_t i = 2; i < MostProductValues + 1; ++i) {
+        zeros += ",0";
+    }
+    Tests::WriteBytes(Package() / "produto.json", zeros + "]");
+    EXPECT_EQ(Findings(), Texts{"produto.json invalido: valores demais (byte 199999)"});
 }
 
 TEST_F(CatalogCheckOfAFolder, TellsOfEntriesThatWereLeftOut) {
@@ -144,15 +165,15 @@ TEST_F(CatalogCheckOfAFolder, TellsOfEntriesThatWereLeftOut) {
 TEST_F(CatalogCheckOfAFolder, ReadsNothingOutsideIt) {
     Tests::WriteBytes(folder.Path() / "segredo", "segredo");
     fs::create_symlink("/etc/passwd", Package() / "elo");
-    for (const std::string path : {"../segredo", "/segredo", "a\\b", "C:x", "nul"}) {
+    for (const std::string path :
+         {"../segredo", "/segredo", "a\\b", "C:x", "nul", "pacotes/luz/ab-12/elo", "pacotes/"}) {
         products[0].curve.path = path;
         Tests::WriteBytes(Package() / "produto.json", JsonWrite(WriteCatalogProduct(products[0])));
-        EXPECT_EQ(Findings(), Texts{"o catalogo lista um caminho que sai da pasta dele: " + path});
+        const PathFault fault = FaultOfPath(path);
+        EXPECT_EQ(
+            Findings(),
+            Texts{RefusedPath(fault == PathFault::None ? PathFault::LinkLeadsOut : fault, path)});
     }
-    products[0].curve.path = "pacotes/luz/ab-12/elo";
-    Tests::WriteBytes(Package() / "produto.json", JsonWrite(WriteCatalogProduct(products[0])));
-    EXPECT_EQ(Findings(),
-              Texts{"o catalogo lista um caminho que sai da pasta dele: pacotes/luz/ab-12/elo"});
 }
 
 TEST_F(CatalogCheckOfAFolder, StopsWhereItIsAskedTo) {
@@ -161,15 +182,31 @@ TEST_F(CatalogCheckOfAFolder, StopsWhereItIsAskedTo) {
     CatalogIndex index;
     index.products = products;
     std::vector<std::size_t> told;
-    const CatalogCheck check =
-        CheckCatalog(folder.Path().string(), index, [&told](std::size_t done, std::size_t all) {
-            EXPECT_EQ(all, 3U);
-            told.push_back(done);
-            return done < 1;
-        });
+    const auto tell = [&told](std::size_t done, std::size_t all) {
+        EXPECT_EQ(all, 3U);
+        told.push_back(done);
+    };
+    const CatalogCheck check = CheckCatalog(folder.Path().string(), index, tell, HttpGet,
+                                            [&told] { return told.size() == 2; });
     EXPECT_TRUE(check.stopped);
     EXPECT_EQ(check.files, 4U);
     EXPECT_EQ(told, (std::vector<std::size_t>{0, 1}));
+    EXPECT_TRUE(check.findings.empty()) << "what was not looked at is no finding";
+}
+
+TEST_F(CatalogCheckOfAFolder, StopsBetweenTwoFiles) {
+    CatalogIndex index;
+    index.products = products;
+    std::vector<std::string> asked;
+    const auto answer = [&asked](const std::string& url, std::uint64_t /*most*/) {
+        asked.push_back(url);
+        return HttpResult{false, 0, "", "a busca foi interrompida"};
+    };
+    const CatalogCheck check = CheckCatalog("https://luz.example/", index, GoOn, answer,
+                                            [&asked] { return asked.size() == 2; });
+    EXPECT_TRUE(check.stopped);
+    EXPECT_EQ(asked.size(), 2U);
+    EXPECT_EQ(check.findings.size(), 1U) << "of the file before, not of the one that was stopped";
 }
 
 TEST_F(CatalogCheckOfAFolder, AsksTheWebForEachFileAndForNothingThatLeaves) {
@@ -179,7 +216,7 @@ TEST_F(CatalogCheckOfAFolder, AsksTheWebForEachFileAndForNothingThatLeaves) {
     std::vector<std::string> asked;
     const CatalogCheck check = CheckCatalog(
         "https://luz.example/", index, GoOn, [&asked](const std::string& url, std::uint64_t most) {
-            EXPECT_EQ(most, LargestRemoteFile);
+            EXPECT_EQ(most, LargestCatalogFile);
             asked.push_back(url);
             return HttpResult{false, 404, "nada",
                               "arquivo nao encontrado no servidor (404): " + url};
@@ -191,8 +228,9 @@ TEST_F(CatalogCheckOfAFolder, AsksTheWebForEachFileAndForNothingThatLeaves) {
     EXPECT_EQ(check.findings[1].text,
               "arquivo nao encontrado no servidor (404): " + package + "ab-12.gsm");
     EXPECT_EQ(check.findings[3].text,
-              "o catalogo lista um caminho que sai da pasta dele: ../fora.png");
+              "o catalogo lista um caminho que sai da pasta dele: \"../fora.png\"");
     EXPECT_EQ(check.files, 0U);
 }
 
+} // namespace
 } // namespace Merivane::Catalog

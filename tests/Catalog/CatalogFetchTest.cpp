@@ -10,6 +10,7 @@
 #include "Catalog/CatalogCache.hpp"
 #include "Catalog/CatalogFetch.hpp"
 #include "Catalog/CatalogSamples.hpp"
+#include "Catalog/InnerPath.hpp"
 #include "Support/Places.hpp"
 #include "Support/Variable.hpp"
 #include "Text/NativePath.hpp"
@@ -55,8 +56,6 @@ protected:
     std::vector<std::string> asked;
     std::uint64_t askedMost = 0;
 };
-
-} // namespace
 
 TEST_F(CatalogFetch, TakesTheWebsAnswerAsItStands) {
     const FetchResult result = FetchCatalogFile(
@@ -206,19 +205,39 @@ TEST_F(CatalogFetch, ReadsNothingOutsideTheFolder) {
     fs::create_directory_symlink(folder.Path() / "fora", base / "pasta");
     fs::create_symlink("/dev/zero", base / "sem-fim");
     Tests::WriteBytes(base / "nul", "");
-    for (const std::string path : {"../fora/segredo", "a/../../fora/segredo", "elo",
-                                   "pasta/segredo", "sem-fim", "a\\x", "C:x", "nul", ""}) {
-        const FetchResult result = FetchCatalogFile(base.string(), path);
-        EXPECT_FALSE(result.ok) << path;
+    Tests::WriteBytes(base / "dentro", "a");
+    fs::create_symlink("dentro", base / "para-dentro");
+    struct Case {
+        std::string path;
+        PathFault fault;
+    };
+    const Case cases[] = {
+        {"../fora/segredo", PathFault::LeadsOut},
+        {"a/../../fora/segredo", PathFault::LeadsOut},
+        {"elo", PathFault::LinkLeadsOut},
+        {"pasta/segredo", PathFault::LinkLeadsOut},
+        {"a\\x", PathFault::BackSlash},
+        {"C:x", PathFault::Colon},
+        {"nul", PathFault::DeviceName},
+        {"", PathFault::NoFileName},
+        {"a/", PathFault::NoFileName},
+        {".", PathFault::NoFileName},
+    };
+    for (const Case& c : cases) {
+        const FetchResult result = FetchCatalogFile(base.string(), c.path);
+        EXPECT_FALSE(result.ok) << c.path;
         EXPECT_EQ(result.bytes, "");
-        EXPECT_EQ(result.error, "o catalogo lista um caminho que sai da pasta dele: " + path);
+        EXPECT_EQ(result.error, RefusedPath(c.fault, c.path));
         FileDigest digest;
         std::string error;
-        EXPECT_FALSE(DigestCatalogFile(base.string(), path, digest, error));
+        EXPECT_FALSE(DigestCatalogFile(base.string(), c.path, digest, error));
         EXPECT_EQ(error, result.error);
-        EXPECT_FALSE(FetchVerifiedFile(base.string(), {path, 0, ""}).ok);
+        EXPECT_FALSE(FetchVerifiedFile(base.string(), {c.path, 0, ""}).ok);
     }
-    EXPECT_EQ(FileCount(), 2);
+    EXPECT_EQ(FetchCatalogFile(base.string(), "sem-fim").error,
+              "arquivo nao encontrado: " + base.string() + "/sem-fim");
+    EXPECT_EQ(FetchCatalogFile(base.string(), "para-dentro").bytes, "a");
+    EXPECT_EQ(FileCount(), 3);
 }
 
 TEST_F(CatalogFetch, WaitsForNoPipe) {
@@ -246,8 +265,73 @@ TEST_F(CatalogFetch, DigestsAFileOfAFolderAndOfTheWeb) {
     EXPECT_EQ(local.sha256, TrueFile("", "bytes").hash);
     EXPECT_EQ(remote.size, local.size);
     EXPECT_EQ(remote.sha256, local.sha256);
+    EXPECT_EQ(error, "");
     EXPECT_FALSE(DigestCatalogFile(folder.Path().string(), "b", local, error));
     EXPECT_EQ(error, "arquivo nao encontrado: " + folder.Path().string() + "/b");
+    EXPECT_EQ(local.size, 5U) << "the digest must stay as it was";
+    answer = {false, 404, "nada", "arquivo nao encontrado no servidor (404)"};
+    EXPECT_FALSE(DigestCatalogFile(Address, "a", remote, error,
+                                   [this](const std::string&, std::uint64_t) { return answer; }));
+    EXPECT_EQ(error, "arquivo nao encontrado no servidor (404)");
+    EXPECT_EQ(remote.sha256, local.sha256) << "the digest must stay as it was";
 }
 
+TEST_F(CatalogFetch, DigestsAFileInParts) {
+    for (const std::size_t size : {0UL, 1UL, 131071UL, 131072UL, 131073UL, 1000000UL}) {
+        const std::string bytes(size, 'x');
+        Tests::WriteBytes(folder.Path() / "arquivo", bytes);
+        FileDigest digest;
+        std::string error;
+        ASSERT_TRUE(DigestCatalogFile(folder.Path().string(), "arquivo", digest, error));
+        EXPECT_EQ(digest.size, size);
+        EXPECT_EQ(digest.sha256, Sha256Hex(bytes));
+    }
+}
+
+TEST_F(CatalogFetch, StopsADigestBetweenTwoBlocks) {
+    Tests::WriteBytes(folder.Path() / "arquivo", std::string(1000000, 'x'));
+    FileDigest digest;
+    std::string error;
+    int questions = 0;
+    EXPECT_FALSE(DigestCatalogFile(folder.Path().string(), "arquivo", digest, error, HttpGet,
+                                   [&questions] { return ++questions == 3; }));
+    EXPECT_EQ(questions, 3);
+    EXPECT_EQ(error, "a busca foi interrompida");
+    EXPECT_EQ(digest.sha256, "");
+}
+
+TEST_F(CatalogFetch, HoldsTheFilesOfAFolderToTheSameLimit) {
+    Tests::WriteBytes(folder.Path() / "enorme", "");
+    fs::resize_file(folder.Path() / "enorme", LargestCatalogFile + 1); // takes no place on the disk
+    const std::string base = folder.Path().string();
+    const FetchResult result = FetchCatalogFile(base, "enorme");
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.bytes, "");
+    EXPECT_EQ(result.error, "arquivo grande demais (mais de 256 MB)");
+    FileDigest digest;
+    std::string error;
+    EXPECT_FALSE(DigestCatalogFile(base, "enorme", digest, error));
+    EXPECT_EQ(error, "arquivo grande demais (mais de 256 MB)");
+    fs::resize_file(folder.Path() / "enorme", LargestCatalogFile);
+    EXPECT_TRUE(DigestCatalogFile(base, "enorme", digest, error));
+    EXPECT_EQ(digest.size, LargestCatalogFile);
+}
+
+TEST_F(CatalogFetch, KeepsACopyOfAFolderToo) {
+    const fs::path place = folder.Path() / "cat";
+    const CatalogProduct product = WriteSampleCatalog(place);
+    EXPECT_TRUE(FetchVerifiedFile(place.string(), product.part).ok);
+    std::string copy;
+    EXPECT_TRUE(ReadCached(CatalogCacheFolder(place.string()), product.part.path, copy));
+    EXPECT_EQ(copy, "bytes do bloco");
+    fs::remove_all(place);
+    const FetchResult kept = FetchVerifiedFile(place.string(), product.part);
+    EXPECT_TRUE(kept.ok) << kept.error;
+    EXPECT_EQ(kept.bytes, "bytes do bloco");
+    const FetchResult gone = FetchVerifiedFile(place.string(), product.ies);
+    EXPECT_FALSE(gone.ok);
+    EXPECT_EQ(gone.error, "arquivo nao encontrado: " + place.string() + "/" + product.ies.path);
+}
+
+} // namespace
 } // namespace Merivane::Catalog

@@ -179,4 +179,42 @@ TEST(CatalogIndex, CutAnywhereIsRefusedInOneSentence) {
     }
 }
 
+TEST(CatalogIndex, KeepsNoPlaceForWhatIsNoProduct) {
+    std::string zeros;
+    for (int i = 1; i < 1000000; ++i) {
+        zeros += "0,";
+    }
+    const CatalogIndex index = ParseCatalogIndex(R"({"produtos": [)" + zeros + "0]}");
+    EXPECT_TRUE(index.ok);
+    EXPECT_EQ(index.incomplete, 1000000U);
+    EXPECT_EQ(index.products.capacity(), 0U);
+}
+
+TEST(CatalogIndex, OfTooManyValuesIsRefused) {
+    std::string zeros;
+    zeros.reserve(2 * MostIndexValues);
+    for (std::size_t i = 0; i < MostIndexValues; ++i) {
+        zeros += "0,";
+    }
+    const CatalogIndex index = ParseCatalogIndex('[' + zeros + "0]");
+    EXPECT_FALSE(index.ok);
+    EXPECT_EQ(index.error, "catalogo.json invalido: valores demais (byte 15999999)");
+}
+
+TEST(CatalogIndex, ReadsAFormatBeyondEveryNumber) {
+    EXPECT_EQ(ParseCatalogIndex(R"({"formato": 1e300, "produtos": []})").error,
+              "este catalogo usa o formato 9223372036854775807, mais novo que o deste Vantoro (1). "
+              "Atualize o Vantoro.");
+    EXPECT_TRUE(ParseCatalogIndex(R"({"formato": -1e300, "produtos": []})").ok);
+}
+
+TEST(CatalogIndex, TakesADayOfAnotherTypeAsNone) {
+    for (const std::string day : {"20261121", "null", "[\"2026-11-21\"]", "{}", "true"}) {
+        const CatalogIndex index =
+            ParseCatalogIndex(R"({"atualizado": )" + day + R"(, "produtos": []})");
+        EXPECT_TRUE(index.ok) << day;
+        EXPECT_EQ(index.updated, "") << day;
+    }
+}
+
 } // namespace Merivane::Catalog

@@ -143,6 +143,8 @@ TEST(CatalogProduct, RoundsHalvesAwayFromZero) {
         {-0.25, 2.0, -0.3, 2.0, -0.1}, // -0.125
         {1e308, 1.0, 1e308, 1.0, 1e308},
         {100.0, 0.0004, 100.0, 0.0, 250000.0}, // from the power as it is, not as written
+        {1e300, 1e-300, 1e300, 0.0, 1.7976931348623157e308}, // no number holds it: the largest
+        {-1e300, 1e-300, -1e300, 0.0, -1.7976931348623157e308},
     };
     for (const Case& c : cases) {
         CatalogProduct product;
@@ -152,6 +154,7 @@ TEST(CatalogProduct, RoundsHalvesAwayFromZero) {
         EXPECT_DOUBLE_EQ(value.NumberOr("fluxo_lm", -1), c.writtenFlux);
         EXPECT_DOUBLE_EQ(value.NumberOr("potencia_w", -1), c.writtenPower);
         EXPECT_DOUBLE_EQ(value.NumberOr("eficacia_lm_w", -1), c.writtenEfficacy);
+        EXPECT_EQ(JsonWrite(value).find("null"), std::string::npos);
     }
 }
 

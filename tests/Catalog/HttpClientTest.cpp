@@ -1,4 +1,6 @@
+#include <chrono>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -200,6 +202,85 @@ TEST_F(HttpClient, StopsABodyWithoutEndAtTheLimit) {
     EXPECT_GT(result.body.size(), 2 * Megabyte);
 }
 
+/// Sends `begin` and then `more` without end.
+Tests::Conversation SendForEver(const std::string& begin, const std::string& more) {
+    return [begin, more](ServerConnection& connection) {
+        connection.ReadHead();
+        connection.Send(begin);
+        while (connection.Send(more)) {
+        }
+    };
+}
+
+TEST_F(HttpClient, StopsAnAnswerThatHasNoEndBesideItsBody) {
+    struct Case {
+        const char* what;
+        std::string begin;
+        std::string more;
+        std::uint32_t status;
+        std::string body;
+    };
+    const std::string line = "X: " + std::string(1000, 'a') + "\r\n";
+    const std::string chunks = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+    const Case cases[] = {
+        {"head", "HTTP/1.1 200 OK\r\n", line, 200, ""},
+        {"head of a redirect", "HTTP/1.1 302 Found\r\nLocation: /b\r\n", line, 302, ""},
+        {"heads before it", "", "HTTP/1.1 103 Early Hints\r\n" + line + "\r\n", 103, ""},
+        {"chunk extension", chunks + "3;", std::string(1000, 'a'), 200, ""},
+        {"trailers", chunks + "3\r\nabc\r\n0\r\n", line, 200, "abc"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        const LoopbackServer server(SendForEver(c.begin, c.more));
+        EXPECT_EQ(Get(server.Address("/")),
+                  (HttpResult{false, c.status, c.body, "erro de rede 100"}));
+        EXPECT_EQ(server.Heads().size(), 1U);
+    }
+}
+
+TEST_F(HttpClient, StopsALineOfAHeadThatHasNoEnd) {
+    const LoopbackServer server(SendForEver("HTTP/1.1 200 OK\r\nX: ", std::string(1000, 'a')));
+    const HttpResult result = Get(server.Address("/"));
+    EXPECT_FALSE(result.ok);
+    EXPECT_TRUE(result.error.starts_with("erro de rede ")) << result.error; // the library's own
+}
+
+TEST_F(HttpClient, TakesALongHeadThatHasAnEnd) {
+    std::string headers;
+    for (int i = 0; i < 200; ++i) {
+        headers += "X: " + std::string(1000, 'a') + "\r\n";
+    }
+    const LoopbackServer server(AnswerWith(HttpAnswer("200 OK", "fim", headers)));
+    EXPECT_EQ(Get(server.Address("/")), (HttpResult{true, 200, "fim", ""}));
+}
+
+TEST_F(HttpClient, KeepsNothingBetweenTwoCalls) {
+    const LoopbackServer server(
+        AnswerWith(HttpAnswer("200 OK", "", "Set-Cookie: a=b; Path=/\r\nETag: \"1\"\r\n")));
+    EXPECT_EQ(Get(server.Address("/")), (HttpResult{true, 200, "", ""}));
+    EXPECT_EQ(Get(server.Address("/")), (HttpResult{true, 200, "", ""}));
+    ASSERT_EQ(server.Heads().size(), 2U);
+    EXPECT_EQ(server.Heads()[1], server.Heads()[0]);
+}
+
+TEST_F(HttpClient, TellsAServerThatLeavesWhileItIsAsked) {
+    const LoopbackServer server([](ServerConnection& connection) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200)); // until it is in full swing
+        connection.Reset();
+    });
+    EXPECT_EQ(Get(server.Address("/" + std::string(1000000, 'a'))),
+              (HttpResult{false, 0, "", "a conexao caiu"}));
+}
+
+TEST_F(HttpClient, TellsANameThatNoServerCanHave) {
+    std::string label;
+    for (int i = 0; i < 64; ++i) {
+        label += "á"; // one more than fit in a part of a name, and not all ASCII
+    }
+    EXPECT_EQ(Get("http://" + label + ".invalid/"),
+              (HttpResult{false, 0, "", "endereco invalido"}));
+}
+
 TEST_F(HttpClient, ReadsABodyInChunksAndOneThatEndsWithTheConnection) {
     const LoopbackServer chunked(AnswerWith("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n"
                                             "3\r\nabc\r\n1;x=y\r\nd\r\n0\r\nTrailer: x\r\n\r\n"));
@@ -297,6 +378,27 @@ TEST_F(HttpClient, GoesPastTheProxyWhereTheEnvironmentSaysSo) {
     const Tests::Variable exceptions("no_proxy", "127.0.0.1");
     EXPECT_EQ(Get(server.Address("/")), (HttpResult{true, 200, "direto", ""}));
     EXPECT_TRUE(proxy.Heads().empty());
+}
+
+TEST_F(HttpClient, KnowsTheOtherNamesOfTheProxysVariables) {
+    const LoopbackServer proxy(AnswerWith(HttpAnswer("403 Forbidden", "do proxy")));
+    for (const char* name : {"all_proxy", "ALL_PROXY"}) {
+        const Tests::Variable variable(name, proxy.Address("/"));
+        EXPECT_EQ(Get("http://catalogo.invalid/a.json").body, "do proxy") << name;
+    }
+    for (const char* name : {"https_proxy", "HTTPS_PROXY", "all_proxy"}) {
+        const Tests::Variable variable(name, proxy.Address("/"));
+        EXPECT_EQ(Get("https://catalogo.invalid/"),
+                  (HttpResult{false, 0, "", "nao foi possivel conectar ao servidor"}));
+        const std::string line = "CONNECT catalogo.invalid:443 HTTP/1.1\r\n";
+        EXPECT_EQ(proxy.Heads().back().substr(0, line.size()), line) << name;
+    }
+    EXPECT_EQ(proxy.Heads().size(), 5U);
+    const LoopbackServer server(AnswerWith(HttpAnswer("200 OK", "direto")));
+    const Tests::Variable variable("http_proxy", proxy.Address("/"));
+    const Tests::Variable exceptions("NO_PROXY", "127.0.0.1");
+    EXPECT_EQ(Get(server.Address("/")), (HttpResult{true, 200, "direto", ""}));
+    EXPECT_EQ(proxy.Heads().size(), 5U);
 }
 
 TEST_F(HttpClient, TellsAProxyThatIsNotThere) {

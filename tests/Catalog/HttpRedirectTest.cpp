@@ -110,8 +110,9 @@ TEST_F(HttpRedirect, IsFollowedWhereTheLinesOfTheHeadEndInLineFeeds) {
 }
 
 TEST_F(HttpRedirect, ToWhatIsNoAddressOfTheWebIsRefused) {
-    for (const char* location : {"ftp://127.0.0.1/a", "file:///etc/hostname", "javascript:a()",
-                                 "http://", "http://nome:porta/"}) {
+    for (const char* location :
+         {"ftp://127.0.0.1/a", "file:///etc/hostname", "javascript:a()", "http://",
+          "http://nome:porta/", "http:/127.0.0.1/", "http:///127.0.0.1/", "HTTPS:/127.0.0.1/"}) {
         SCOPED_TRACE(location);
         const LoopbackServer server(AnswerWith(Redirect("302 Found", location)));
         EXPECT_EQ(Get(server.Address("/")), (HttpResult{false, 0, "", "endereco invalido"}));

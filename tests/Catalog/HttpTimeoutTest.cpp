@@ -109,6 +109,31 @@ TEST_F(HttpTimeout, EndsTheWaitForAProxy) {
     ExpectTimeout("https://catalogo.invalid/", &HttpTimeouts::connect);
 }
 
+TEST_F(HttpTimeout, IsNotWaitedForByWhoAsksToStop) {
+    using Clock = std::chrono::steady_clock;
+    const LoopbackServer silent(FallSilentAfter(""));
+    const LoopbackServer dripping([](ServerConnection& connection) {
+        connection.ReadHead();
+        connection.Send("HTTP/1.1 200 OK\r\nContent-Length: 400\r\n\r\n");
+        while (connection.Send("a")) {
+            std::this_thread::sleep_for(milliseconds(50));
+        }
+    });
+    const Tests::UnansweringPort deaf;
+    const std::string urls[] = {silent.Address("/"), dripping.Address("/"),
+                                "http://127.0.0.1:" + std::to_string(deaf.Port()) + "/",
+                                "http://" + Tests::SlowName + "/"};
+    for (const std::string& url : urls) {
+        const auto begin = Clock::now();
+        const HttpResult result = HttpGetWith(url, Megabyte, HttpTimeouts{}, [begin] {
+            return Clock::now() - begin > milliseconds(300);
+        });
+        EXPECT_LT(Clock::now() - begin, milliseconds(1300)) << url;
+        EXPECT_FALSE(result.ok);
+        EXPECT_EQ(result.error, "a busca foi interrompida") << url;
+    }
+}
+
 TEST_F(HttpTimeout, IsOneOfSilenceNotOfLength) {
     const LoopbackServer server([](ServerConnection& connection) {
         connection.ReadHead();

@@ -133,6 +133,29 @@ TEST_F(HttpTls, IsNotLeftByARedirect) {
     EXPECT_TRUE(target.Heads().empty());
 }
 
+TEST_F(HttpTls, IsNotLeftByALaterRedirectOfAChainThatEnteredIt) {
+    const LoopbackServer target(AnswerWith(HttpAnswer("200 OK", "")));
+    const LoopbackServer plain(
+        AnswerWith(HttpAnswer("302 Found", "mudou", "Location: " + target.Address("/") + "\r\n")));
+    const TlsFront front(local, plain.Port());
+    const LoopbackServer entry(AnswerWith(
+        HttpAnswer("301 Moved", "", "Location: " + Address("localhost", front, "/a") + "\r\n")));
+    const std::string url = entry.Address("/");
+    EXPECT_EQ(GetTrusting(local, url),
+              (HttpResult{false, 302, "", "o servidor respondeu 302 para " + url}));
+    EXPECT_TRUE(target.Heads().empty());
+}
+
+TEST_F(HttpTls, IsNotRememberedForTheNextCall) {
+    const LoopbackServer plain(AnswerWith(HttpAnswer(
+        "200 OK", "", "Strict-Transport-Security: max-age=31536000; includeSubDomains\r\n")));
+    const TlsFront front(local, plain.Port());
+    EXPECT_EQ(GetTrusting(local, Address("localhost", front, "/")),
+              (HttpResult{true, 200, "", ""}));
+    EXPECT_EQ(Get("http://localhost:" + std::to_string(plain.Port()) + "/"),
+              (HttpResult{true, 200, "", ""}));
+}
+
 TEST_F(HttpTls, IsEnteredAndKeptByRedirects) {
     const LoopbackServer plain(
         AnswerByPath({{"/a", HttpAnswer("302 Found", "mudou", "Location: b\r\n")},

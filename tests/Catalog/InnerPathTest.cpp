@@ -14,8 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-} // namespace
-
 TEST(InnerPath, TakesThePathsOfACatalogue) {
     for (const std::string path :
          {"catalogo.json", "pacotes/luz/ab-12/ab-12.gsm", "a b/ç.png", "./a", "a//b", ".a", "a.",
@@ -25,22 +23,52 @@ TEST(InnerPath, TakesThePathsOfACatalogue) {
 }
 
 TEST(InnerPath, RefusesEveryWayOut) {
-    const std::vector<std::string> nowhere = {"", "a\nb", "\x01"};
-    const std::vector<std::string> up = {"..", "../a", "a/../b", "a/..", "a/../../b"};
-    const std::vector<std::string> upOnWindows = {".. ", "...", ". .", "a/.. /b", "a/. "};
-    const std::vector<std::string> fromTheRoot = {"/a", "//a/b", "/"};
-    const std::vector<std::string> backSlashes = {"\\a", "a\\b", "..\\a", "\\\\servidor\\a"};
-    const std::vector<std::string> drivesAndStreams = {"C:/a", "C:a", "c:\\a", "a/b:c"};
-    const std::vector<std::string> devices = {
-        "con",  "CON",  "a/Nul",  "nul.txt",  "aux.tar.gz", "prn",     "COM1",  "lpt9.ies",
-        "com0", "com¹", "LPT³.x", "con .txt", "conin$",     "CONOUT$", "clock$"};
-    for (const auto& paths :
-         {nowhere, up, upOnWindows, fromTheRoot, backSlashes, drivesAndStreams, devices}) {
-        for (const std::string& path : paths) {
+    struct Case {
+        PathFault fault;
+        std::vector<std::string> paths;
+    };
+    const Case cases[] = {
+        {PathFault::NoFileName, {"", ".", "./", "a/", "a/.", "a//", "./.", " ", "a/ "}},
+        {PathFault::ControlCharacter, {"a\nb", "\x01", std::string("a\0b", 3), "../\t"}},
+        {PathFault::LeadsOut, {"..", "../a", "a/../b", "a/..", "a/../../b", "a/../"}},
+        // on Windows
+        {PathFault::LeadsOut, {".. ", "...", ". .", "a/.. /b", "a/. "}},
+        {PathFault::LeadsOut, {"/a", "//a/b", "/"}},
+        {PathFault::BackSlash, {"\\a", "a\\b", "..\\a", "\\\\servidor\\a", "c:\\a"}},
+        {PathFault::Colon, {"C:/a", "C:a", "a/b:c"}},
+        {PathFault::DeviceName,
+         {"con", "CON", "a/Nul", "nul.txt", "aux.tar.gz", "prn", "COM1", "lpt9.ies", "com0", "com¹",
+          "LPT³.x", "con .txt", "conin$", "CONOUT$", "clock$", "pacotes/aux/a.gsm"}},
+    };
+    for (const Case& c : cases) {
+        for (const std::string& path : c.paths) {
+            EXPECT_EQ(FaultOfPath(path), c.fault) << path;
             EXPECT_FALSE(IsInnerPath(path)) << path;
         }
     }
-    EXPECT_FALSE(IsInnerPath(std::string("a\0b", 3)));
+}
+
+TEST(InnerPath, TellsWhyAPathIsRefused) {
+    struct Case {
+        PathFault fault;
+        std::string sentence;
+    };
+    const Case cases[] = {
+        {PathFault::LeadsOut, "o catalogo lista um caminho que sai da pasta dele: \"x y\""},
+        {PathFault::LinkLeadsOut,
+         "o catalogo lista um caminho que um atalho leva para fora da pasta dele: \"x y\""},
+        {PathFault::NoFileName,
+         "o catalogo lista um caminho que nao termina no nome de um arquivo: \"x y\""},
+        {PathFault::BackSlash, "o catalogo lista um caminho com barra invertida: \"x y\""},
+        {PathFault::Colon, "o catalogo lista um caminho com dois-pontos: \"x y\""},
+        {PathFault::ControlCharacter,
+         "o catalogo lista um caminho com um caractere de controle: \"x y\""},
+        {PathFault::DeviceName,
+         "o catalogo lista um nome que o Windows reserva para dispositivos: \"x y\""},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(RefusedPath(c.fault, "x\ny"), c.sentence);
+    }
 }
 
 TEST(InnerPath, StaysBelowItsFolderWhateverItIsMadeOf) {
@@ -57,32 +85,29 @@ TEST(InnerPath, StaysBelowItsFolderWhateverItIsMadeOf) {
         }
         ++taken;
         const fs::path place = (fs::path("/base") / path).lexically_normal();
-        ASSERT_TRUE(place.string().starts_with("/base")) << path;
+        ASSERT_TRUE(place.string().starts_with("/base/")) << path;
+        ASSERT_TRUE(place.has_filename()) << path;
     }
     EXPECT_GT(taken, 1000);
 }
 
-TEST(InnerPath, FollowsLinksToSeeWhereAFileStands) {
+TEST(InnerPath, SeesWhetherARealPathStandsBelowAFolder) {
     const Tests::TemporaryFolder folder;
     const fs::path base = folder.Path() / "base";
     fs::create_directories(base / "dentro");
     fs::create_directories(folder.Path() / "base2");
     Tests::WriteBytes(base / "dentro/a", "a");
     Tests::WriteBytes(folder.Path() / "base2/fora", "f");
-    fs::create_symlink("dentro/a", base / "para-dentro");
-    fs::create_symlink("../base2/fora", base / "para-fora");
-    fs::create_directory_symlink(folder.Path() / "base2", base / "pasta-fora");
     fs::create_directory_symlink(base, folder.Path() / "outra-base");
+    const fs::path real = fs::canonical(folder.Path());
 
-    EXPECT_TRUE(LeadsInside(base, base / "dentro/a"));
-    EXPECT_TRUE(LeadsInside(base, base / "para-dentro"));
-    EXPECT_TRUE(LeadsInside(folder.Path() / "outra-base", folder.Path() / "outra-base/dentro/a"));
-    EXPECT_FALSE(LeadsInside(base, base / "para-fora"));
-    EXPECT_FALSE(LeadsInside(base, base / "pasta-fora/fora"));
-    EXPECT_FALSE(LeadsInside(base, folder.Path() / "base2/fora")); // a name that only begins alike
-    EXPECT_FALSE(LeadsInside(base, base));
-    EXPECT_FALSE(LeadsInside(base, base / "falta"));
-    EXPECT_FALSE(LeadsInside(folder.Path() / "falta", base / "dentro/a"));
+    EXPECT_TRUE(StandsBelow(base, real / "base/dentro/a"));
+    EXPECT_TRUE(StandsBelow(base.string() + "/", real / "base/dentro/a"));
+    EXPECT_TRUE(StandsBelow(folder.Path() / "outra-base", real / "base/dentro/a"));
+    EXPECT_FALSE(StandsBelow(base, real / "base2/fora")); // a name that only begins alike
+    EXPECT_FALSE(StandsBelow(base, real / "base"));
+    EXPECT_FALSE(StandsBelow(base, ""));
+    EXPECT_FALSE(StandsBelow(folder.Path() / "falta", real / "base/dentro/a"));
 }
 
 TEST(InnerPath, SeesALinkOnTheWay) {
@@ -110,4 +135,5 @@ TEST(InnerPath, SeesALinkOnTheWay) {
     EXPECT_FALSE(IsFreeOfLinks(base, base / "a/b/c/d")); // a file where a folder should be
 }
 
+} // namespace
 } // namespace Merivane::Catalog

@@ -307,4 +307,23 @@ TEST(JsonParse, ReadsAnObjectOfVeryManyMembersInLinearTime) {
 }
 
 } // namespace
+TEST(JsonParse, CountsTheValuesOfADocument) {
+    struct Case {
+        std::string text;
+        std::size_t values;
+        std::string error; ///< where one fewer may stand
+    };
+    const Case cases[] = {
+        {"1", 1, "valores demais (byte 0)"},
+        {"[]", 1, "valores demais (byte 0)"},
+        {"[1, 2]", 3, "valores demais (byte 4)"},
+        {R"({"a": [null], "a": 2})", 4, "valores demais (byte 19)"},
+    };
+    for (const Case& c : cases) {
+        JsonValue value;
+        EXPECT_TRUE(JsonParse(c.text, value, c.values).ok) << c.text;
+        EXPECT_EQ(JsonParse(c.text, value, c.values - 1).error, c.error) << c.text;
+    }
+}
+
 } // namespace Merivane::Catalog

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <filesystem>
 #include <random>
 #include <string>
 
@@ -7,8 +6,6 @@
 
 #include "Catalog/Sha256.hpp"
 #include "Catalog/Sha256Blocks.hpp"
-#include "Support/Places.hpp"
-#include "Text/NativePath.hpp"
 
 namespace Merivane::Catalog {
 namespace {
@@ -121,28 +118,6 @@ TEST(Sha256, ThePortableFormGivesThePublishedDigest) {
     PortableTakeBlocks(state, block.data(), 1);
     EXPECT_EQ(state, (Sha256State{0xba7816bf, 0x8f01cfea, 0x414140de, 0x5dae2223, 0xb00361a3,
                                   0x96177a9c, 0xb410ff61, 0xf20015ad}));
-}
-
-TEST(Sha256, DigestsAFileInParts) {
-    const Tests::TemporaryFolder folder;
-    std::mt19937 random(3);
-    for (const std::size_t size : {0UL, 1UL, 131071UL, 131072UL, 131073UL, 1000000UL}) {
-        const std::string bytes = RandomBytes(random, size);
-        Tests::WriteBytes(folder.Path() / "arquivo", bytes);
-        FileDigest digest;
-        ASSERT_TRUE(DigestFile(Text::WidePath(folder.Path() / "arquivo"), digest));
-        EXPECT_EQ(digest.size, size);
-        EXPECT_EQ(digest.sha256, Sha256Hex(bytes));
-    }
-}
-
-TEST(Sha256, LeavesTheDigestOfAFileThatCannotBeReadUntouched) {
-    const Tests::TemporaryFolder folder;
-    FileDigest digest = {7, "antes"};
-    EXPECT_FALSE(DigestFile(Text::WidePath(folder.Path() / "falta"), digest));
-    EXPECT_FALSE(DigestFile(Text::WidePath(folder.Path()), digest)); // a folder
-    EXPECT_EQ(digest.size, 7U);
-    EXPECT_EQ(digest.sha256, "antes");
 }
 
 } // namespace Merivane::Catalog

@@ -6,6 +6,7 @@
 #include "Catalog/CatalogProduct.hpp"
 #include "Document/CatalogReport.hpp"
 #include "Document/TextColumns.hpp"
+#include "Text/ShownText.hpp"
 
 namespace Merivane::Document {
 namespace {
@@ -43,6 +44,8 @@ TEST(CatalogReport, ListsProductsInColumns) {
             "Fábrica de Luminári…  Bloco                                       a b [31m          "
             "      -        -",
         }));
+    other.flux = 1e300;
+    other.power = 1e300;
     for (const std::string& line : CatalogListLines({&panel, &other})) {
         EXPECT_LE(CharacterCount(line), 100U);
     }
@@ -81,18 +84,46 @@ TEST(CatalogReport, GivesProductsToAProgramAsTheyArePublished) {
     EXPECT_EQ(Catalog::JsonWrite(CatalogListJson({})), "[]\n");
 }
 
+TEST(CatalogReport, GivesAProgramTextsThatEveryReaderTakes) {
+    const std::string odd = "a\xC2\x9B"
+                            "b\x7F"
+                            "c\xFF\n d";
+    CatalogProduct product;
+    for (std::string* text : {&product.id, &product.updated, &product.manufacturer, &product.code,
+                              &product.description, &product.lamp, &product.block}) {
+        *text = odd;
+    }
+    for (Catalog::CatalogFile* file :
+         {&product.part, &product.ies, &product.curve, &product.image}) {
+        *file = {odd, 1, odd};
+    }
+    product.macros = {odd, " como escrito "};
+    const std::string written = Catalog::JsonWrite(CatalogListJson({&product}));
+    std::size_t shown = 0;
+    const std::string plain = "\"a b c\xEF\xBF\xBD  d\"";
+    for (std::size_t at = 0; (at = written.find(plain, at)) != std::string::npos; ++at) {
+        ++shown;
+    }
+    EXPECT_EQ(shown, 16U) << written;
+    EXPECT_NE(written.find("\" como escrito \""), std::string::npos);
+    EXPECT_EQ(Text::ShownLines(written), written)
+        << "no control character, no byte that is not UTF-8";
+}
+
 TEST(CatalogReport, GivesACheckToAProgram) {
     Catalog::CatalogIndex index;
     index.updated = "2026-11-21";
     index.products = {Panel()};
     Catalog::CatalogCheck check;
     check.files = 3;
+    check.withoutHash = 1;
     check.findings = {{"", "um"}, {"luz/ab-12", "dois"}};
     EXPECT_EQ(Catalog::JsonWrite(CatalogCheckJson("https://a/", index, check)), R"({
 	"endereco": "https://a/",
 	"atualizado": "2026-11-21",
 	"produtos": 1,
 	"arquivos": 3,
+	"sem_sha256": 1,
 	"problemas": [
 		{
 			"produto": null,

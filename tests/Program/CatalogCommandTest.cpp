@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -127,7 +128,7 @@ TEST_F(CatalogCommand, FailsWhereThereIsNoIndexThatItCanUse) {
         const ProgramEnd run = RunVantoro({"catalogo", command, Folder() + "/pacotes"});
         EXPECT_EQ(run.status, 1);
         EXPECT_EQ(run.error, "vantoro: não foi possível carregar: arquivo nao encontrado: " +
-                                 Folder() + "/pacotes/catalogo.json.\n");
+                                 Folder() + "/pacotes/catalogo.json\n");
     }
 }
 
@@ -156,16 +157,11 @@ TEST_F(CatalogCommand, ChecksACatalogueOfTheWebAsItIsThere) {
     EXPECT_TRUE(fs::is_empty(cache.Path())) << "a check must neither use nor fill the cache";
 }
 
-TEST_F(CatalogCommand, IsCancelledBetweenTwoProducts) {
-    std::vector<CatalogProduct> products(50, product);
-    for (std::size_t i = 0; i < products.size(); ++i) {
-        products[i].id += "-" + std::to_string(i);
-    }
-    Catalog::WriteSampleIndex(folder.Path(), products);
+TEST_F(CatalogCommand, IsCancelledBetweenTwoFiles) {
     const TemporaryFolder cache;
     const fs::path pidFile = cache.Path() / "pid";
     const Conversation answer = AnswerByPath(Answers());
-    // The third request is about the first product: then Ctrl-C is pressed.
+    // The third request is for the first product's part: then Ctrl-C is pressed.
     LoopbackServer server([&answer, &pidFile, requests = 0](ServerConnection& connection) mutable {
         if (++requests == 3) {
             ::kill(std::stoi(ReadBytes(pidFile)), SIGINT);
@@ -178,7 +174,66 @@ TEST_F(CatalogCommand, IsCancelledBetweenTwoProducts) {
     EXPECT_EQ(run.status, 130);
     EXPECT_EQ(run.output, "");
     EXPECT_EQ(run.error, "vantoro: verificação cancelada.\n");
-    EXPECT_EQ(server.Heads().size(), 5U) << "the index and the first product's four files";
+    EXPECT_EQ(server.Heads().size(), 3U) << "the index, the product's record and its part";
+}
+
+TEST_F(CatalogCommand, IsCancelledWhileAServerDrips) {
+    using Clock = std::chrono::steady_clock;
+    const TemporaryFolder cache;
+    const fs::path pidFile = cache.Path() / "pid";
+    const Conversation answer = AnswerByPath(Answers());
+    Clock::time_point pressed;
+    LoopbackServer server([&, requests = 0](ServerConnection& connection) mutable {
+        if (++requests < 3) {
+            return answer(connection);
+        }
+        connection.ReadHead();
+        connection.Send("HTTP/1.1 200 OK\r\nContent-Length: 100000\r\n\r\n");
+        for (int bytes = 0; connection.Send("a"); ++bytes) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            if (bytes == 10) {
+                pressed = Clock::now();
+                ::kill(std::stoi(ReadBytes(pidFile)), SIGINT);
+            }
+        }
+    });
+    ProgramCall call = WithCache(cache.Path());
+    call.prelude += " echo $$ >" + ShellWord(pidFile.string()) + ";";
+    const ProgramEnd run = RunVantoro({"catalogo", "verificar", server.Address("/")}, call);
+    EXPECT_LT(Clock::now() - pressed, std::chrono::seconds(1));
+    EXPECT_EQ(run.status, 130);
+    EXPECT_EQ(run.output, "");
+    EXPECT_EQ(run.error, "vantoro: verificação cancelada.\n");
+}
+
+TEST_F(CatalogCommand, PutsNoFullStopBehindAnAddress) {
+    const TemporaryFolder cache;
+    LoopbackServer server(AnswerByPath({}));
+    const std::string address = server.Address("/catalogo.json");
+    const ProgramEnd run = RunVantoro({"catalogo", "listar", address}, WithCache(cache.Path()));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.error, "vantoro: não foi possível carregar: arquivo nao encontrado no servidor "
+                         "(404): " +
+                             address + "\n");
+}
+
+TEST_F(CatalogCommand, SaysHowAnAddressOfTheWebBegins) {
+    ProgramCall call;
+    call.folder = folder.Path();
+    for (const std::string origin : {"luz.com.br/cat", "ftp://luz/cat", "www.luz.com"}) {
+        const ProgramEnd run = RunVantoro({"catalogo", "listar", origin}, call);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_NE(run.error.find("vantoro: um endereço da internet começa com https:// ou http://; "
+                                 "\"" +
+                                 origin + "\" foi lido como uma pasta deste computador.\n"),
+                  std::string::npos)
+            << run.error;
+    }
+    for (const std::string origin : {"falta", "../falta", "/falta/a.b", "pacotes"}) {
+        const ProgramEnd run = RunVantoro({"catalogo", "listar", origin}, call);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.error.find("internet"), std::string::npos) << run.error;
+    }
 }
 
 TEST_F(CatalogCommand, LeavesAServerThatIsSilentOnTheIndexAtOnce) {
@@ -290,9 +345,9 @@ TEST(CatalogCommandLine, RefusesWrongUseWithAHintToTheRightHelp) {
         {{"catalogo", "abrir"},
          "vantoro: comando desconhecido: abrir.\nVeja \"vantoro catalogo --ajuda\".\n"},
         {{"catalogo", "listar"},
-         "vantoro: falta ORIGEM.\nVeja \"vantoro catalogo listar --ajuda\".\n"},
+         "vantoro: falta PASTA|ENDEREÇO.\nVeja \"vantoro catalogo listar --ajuda\".\n"},
         {{"catalogo", "verificar", ""},
-         "vantoro: ORIGEM: falta o valor.\nVeja \"vantoro catalogo verificar --ajuda\".\n"},
+         "vantoro: PASTA|ENDEREÇO: falta o valor.\nVeja \"vantoro catalogo verificar --ajuda\".\n"},
         {{"catalogo", "verificar", "a", "b"},
          "vantoro: argumento desconhecido: b.\nVeja \"vantoro catalogo verificar --ajuda\".\n"},
     };
@@ -305,7 +360,7 @@ TEST(CatalogCommandLine, RefusesWrongUseWithAHintToTheRightHelp) {
     for (const std::string command : {"verificar", "listar"}) {
         const ProgramEnd run = RunVantoro({"catalogo", command, "--ajuda"});
         EXPECT_EQ(run.status, 0);
-        EXPECT_NE(run.output.find("Uso: vantoro catalogo " + command + " [OPÇÕES] ORIGEM"),
+        EXPECT_NE(run.output.find("Uso: vantoro catalogo " + command + " [OPÇÕES] PASTA|ENDEREÇO"),
                   std::string::npos)
             << run.output;
     }
