@@ -55,4 +55,21 @@ Host::ErrorCode SaveReflectances(const Simulation::ReflectanceStore& store) {
     return WritePreference(Simulation::ReflectancesKey, Simulation::FormatReflectances(store));
 }
 
+Photometry::UserSymbols LoadUserSymbols() {
+    Photometry::UserSymbols symbols;
+    LoadUserSymbols(symbols);
+    return symbols;
+}
+
+Host::ErrorCode LoadUserSymbols(Photometry::UserSymbols& symbols) {
+    std::string text;
+    const Host::ErrorCode code = ReadPreference(Photometry::UserSymbolsKey, text);
+    symbols = Photometry::ParseUserSymbols(text);
+    return code;
+}
+
+Host::ErrorCode SaveUserSymbols(const Photometry::UserSymbols& symbols) {
+    return WritePreference(Photometry::UserSymbolsKey, Photometry::FormatUserSymbols(symbols));
+}
+
 } // namespace Merivane::Archicad

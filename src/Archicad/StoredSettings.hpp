@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Host/Types.hpp"
+#include "Photometry/UserSymbols.hpp"
 #include "Simulation/EngineSettings.hpp"
 #include "Simulation/LastRunRecord.hpp"
 #include "Simulation/Reflectances.hpp"
@@ -23,5 +24,11 @@ Host::ErrorCode SaveLastRun(const Simulation::LastRunRecord& record);
 Simulation::ReflectanceStore LoadReflectances();
 Host::ErrorCode LoadReflectances(Simulation::ReflectanceStore& store);
 Host::ErrorCode SaveReflectances(const Simulation::ReflectanceStore& store);
+
+/// Only the built-in symbols by default, all of them shown. The second form gives the host's code
+/// too, for whoever saves what was read.
+Photometry::UserSymbols LoadUserSymbols();
+Host::ErrorCode LoadUserSymbols(Photometry::UserSymbols& symbols);
+Host::ErrorCode SaveUserSymbols(const Photometry::UserSymbols& symbols);
 
 } // namespace Merivane::Archicad

@@ -9,7 +9,7 @@
 
 namespace Merivane::Photometry {
 
-/// Key under which the add-on's preferences keep a project's symbols.
+/// Key under which the add-on's preferences keep the user's symbols.
 inline constexpr std::string_view UserSymbolsKey = "MVSYMB01";
 
 /// Identifiers of the user's own symbols. They begin far above the built-in ones, so that a later
@@ -17,7 +17,7 @@ inline constexpr std::string_view UserSymbolsKey = "MVSYMB01";
 inline constexpr int FirstUserSymbol = 1000;
 inline constexpr int LastUserSymbol = 999'999'999;
 
-/// What a project keeps of its plan symbols.
+/// What the user made of the plan symbols.
 struct UserSymbols {
     int nextId = FirstUserSymbol;    ///< the next free identifier, never one given before
     std::set<int> hiddenBuiltIns;    ///< built-in symbols that the user removed
@@ -31,12 +31,12 @@ struct UserSymbols {
 /// taken. `nextId` is above all identifiers that were read.
 UserSymbols ParseUserSymbols(std::string_view text);
 
-/// The text of a project's symbols. Hidden ones of the user's own are gone for good and left out,
+/// The text that is stored. Hidden ones of the user's own are gone for good and left out,
 /// and so are strokes that are not drawable. A filled circle is written as a polygon, since the
 /// form has no sign for it; line breaks in a name become blanks.
 std::string FormatUserSymbols(const UserSymbols& symbols);
 
-/// All symbols that a project's luminaires can be given: the built-in ones, with "no symbol" first
+/// All symbols that luminaires can be given: the built-in ones, with "no symbol" first
 /// and those marked that the user removed, then the user's own.
 std::vector<PlanSymbol> SymbolLibrary(const UserSymbols& symbols);
 
