@@ -40,6 +40,12 @@ int main() {
                                "NEXT i\n";
     const std::string mirrored = "MULX -1\n" + blocks + "DEL 1\n";
     const std::string cut = "ADDZ 0.5\nCUTPLANE\nDEL 1\n" + blocks + "CUTEND\n";
+    const std::string tube = "CUTPOLYA 2, 1, 0.5, 80, 0.5, 915, 0.3, 360, 4015\n";
+    const std::string hollowed = tube + blocks + "CUTEND\n";
+    const std::string mesh =
+        "DIM z[100489]\nFOR i = 1 TO 100489\nz[i] = 1 + 0.1 * SIN (i)\nNEXT i\n"
+        "ADD -75, 0, 0\n" +
+        tube + "DEL 1\nMESH 10, 10, 317, 317, 5, z\n";
     const std::string prisms = "FOR i = 1 TO 2632\nADD i * 0.01, 0, 0\nPRISM_ 2, 1, 0, 0, 915, 0.1,"
                                " 360, 4015\nDEL 1\nNEXT i\n";
     const std::string corners =
@@ -49,6 +55,7 @@ int main() {
                               "3 * i - 1, 3 * i\nNEXT i\n";
     for (const Row& row :
          {Row{"blocks", blocks}, Row{"blocks, mirrored", mirrored}, Row{"blocks, cut", cut},
+          Row{"blocks, hollowed", hollowed}, Row{"MESH, hollowed", mesh},
           Row{"cylinders of PRISM_", prisms}, Row{"VERT, EDGE, PGON", corners + edges}}) {
         Time(row);
     }

@@ -31,6 +31,7 @@ ScriptLimits SmallLimits() {
     limits.textBytes = 5'000;
     limits.shapes = 2'000;
     limits.vertices = 20'000;
+    limits.solidWork = 1'000'000;
     return limits;
 }
 

@@ -249,6 +249,49 @@ void CombineApart(FacedBody& first, BodyOperation operation) {
     }
 }
 
+/// Adds the parts of a line on one side of a body; what hangs together is one line.
+void ClipLine(const BodyLine& line, const SolidProbe& body, bool inside, std::size_t& looks,
+              std::vector<BodyLine>& kept) {
+    SpaceBox box;
+    Enclose(box, line[0]);
+    Enclose(box, line[1]);
+    std::vector<std::int32_t> meeting;
+    FindBoxes(body.tree, box, SamePlace, meeting);
+    std::vector<double> shares = {0.0, 1.0};
+    for (const std::int32_t at : meeting) {
+        const CuttingPlane& plane = body.planes[static_cast<std::size_t>(at)];
+        const double begin = Dot(Difference(line[0], plane.point), plane.normal);
+        const double end = Dot(Difference(line[1], plane.point), plane.normal);
+        if ((begin > 0.0) != (end > 0.0)) {
+            shares.push_back(begin / (begin - end));
+        }
+    }
+    std::sort(shares.begin(), shares.end());
+    const auto placeAt = [&](double share) {
+        return Sum(line[0], Scaled(Difference(line[1], line[0]), share));
+    };
+    bool joins = false;
+    for (std::size_t i = 0; i + 1 < shares.size(); ++i) {
+        if (!(shares[i + 1] > shares[i])) {
+            continue;
+        }
+        const Coordinate3D middle = placeAt((shares[i] + shares[i + 1]) / 2.0);
+        const bool isInside = LocatePlace(body, middle, {}, looks) == SolidSide::Inside;
+        if (isInside != inside) {
+            joins = false;
+            continue;
+        }
+        const Coordinate3D end = i + 2 == shares.size() ? line[1] : placeAt(shares[i + 1]);
+        if (joins) {
+            kept.back()[1] = end;
+        } else {
+            kept.push_back({i == 0 ? line[0] : placeAt(shares[i]), end});
+        }
+        joins = true;
+    }
+    looks += meeting.size();
+}
+
 } // namespace
 
 BooleanTool MakeTool(const FacedBody& body) {
@@ -291,6 +334,24 @@ bool CombineBodies(FacedBody& first, const BooleanTool& second, BodyOperation op
         }
     }
     first = std::move(exact);
+    return true;
+}
+
+bool ClipLines(std::vector<BodyLine>& lines, const BooleanTool& body, bool inside,
+               SolidBudget& budget) {
+    std::vector<BodyLine> kept;
+    for (const BodyLine& line : lines) {
+        std::size_t looks = 1;
+        if (body.closed) {
+            ClipLine(line, body.probe, inside, looks, kept);
+        } else if (!inside) {
+            kept.push_back(line);
+        }
+        if (!Spend(budget, looks)) {
+            return false;
+        }
+    }
+    lines = std::move(kept);
     return true;
 }
 

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <array>
+#include <vector>
+
 #include "Workbench/Bodies/FacedBody.hpp"
+#include "Workbench/Script/SolidBudget.hpp"
 #include "Workbench/Script/SolidProbe.hpp"
 
 /// Difference, intersection and union of bodies with plane faces. The faces of each are parted by
@@ -33,5 +37,13 @@ bool CombineBodies(FacedBody& first, const BooleanTool& second, BodyOperation op
 
 /// True where the boxes of two bodies touch.
 bool BodiesMeet(const FacedBody& first, const BooleanTool& second);
+
+/// A line from place to place.
+using BodyLine = std::array<Host::Coordinate3D, 2>;
+
+/// Puts what of the lines lies outside a body, or with `inside` what lies in it, in their place.
+/// False when the budget does not reach. A body that is open encloses nothing.
+bool ClipLines(std::vector<BodyLine>& lines, const BooleanTool& body, bool inside,
+               SolidBudget& budget);
 
 } // namespace Merivane::Workbench

@@ -30,8 +30,7 @@ double JoiningDistance(const FacedBody& body) {
     constexpr double share = 1e-12;
     double farthest = 0.0;
     for (const Coordinate3D& vertex : body.vertices) {
-        farthest =
-            std::max({farthest, std::abs(vertex.x), std::abs(vertex.y), std::abs(vertex.z)});
+        farthest = std::max({farthest, std::abs(vertex.x), std::abs(vertex.y), std::abs(vertex.z)});
     }
     return SamePlace + share * farthest;
 }
@@ -134,9 +133,9 @@ public:
 
     /// Walked from the smaller number to the larger: both faces of a side get the same.
     const Contour& On(std::int32_t low, std::int32_t high) {
-        const auto [found, isNew] = known.try_emplace(
-            static_cast<std::uint64_t>(static_cast<std::uint32_t>(low)) << 32U |
-            static_cast<std::uint32_t>(high));
+        const auto [found, isNew] =
+            known.try_emplace(static_cast<std::uint64_t>(static_cast<std::uint32_t>(low)) << 32U |
+                              static_cast<std::uint32_t>(high));
         if (isNew) {
             Collect(low, high, found->second);
         }

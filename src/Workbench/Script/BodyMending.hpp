@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "Workbench/Bodies/FacedBody.hpp"
-#include "Workbench/Script/SolidProbe.hpp"
+#include "Workbench/Script/SolidBudget.hpp"
 
 /// Making one closed body of pieces of faces that were cut one by one: their vertices lie in the
 /// same places only up to rounding, and one may lie on a side of another piece.

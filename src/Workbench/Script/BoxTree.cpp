@@ -141,12 +141,14 @@ BoxTree BuildBoxTree(std::vector<SpaceBox> boxes) {
 
 void FindBoxes(const BoxTree& tree, const SpaceBox& box, double margin,
                std::vector<std::int32_t>& found) {
-    Search(tree, [&](const SpaceBox& other) { return BoxesMeet(box, other, margin); }, found);
+    Search(
+        tree, [&](const SpaceBox& other) { return BoxesMeet(box, other, margin); }, found);
 }
 
 void FindBoxesAlong(const BoxTree& tree, const Coordinate3D& from, const Coordinate3D& way,
                     double margin, std::vector<std::int32_t>& found) {
-    Search(tree, [&](const SpaceBox& box) { return LineMeets(box, from, way, margin); }, found);
+    Search(
+        tree, [&](const SpaceBox& box) { return LineMeets(box, from, way, margin); }, found);
 }
 
 } // namespace Merivane::Workbench

@@ -1,11 +1,14 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <memory>
 #include <utility>
 
 #include "Host/Model3D.hpp"
 #include "Text/ShownText.hpp"
+#include "Workbench/Script/CuttingForms.hpp"
 #include "Workbench/Script/ScriptStatements.hpp"
+#include "Workbench/Script/ShapeModel.hpp"
 
 namespace Merivane::Workbench {
 
@@ -108,6 +111,12 @@ Coordinate3D Cross(const Coordinate3D& a, const Coordinate3D& b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 
+/// True, with `failure` set, where no further cut may begin.
+bool TooManyCuts(ScriptMachine& machine) {
+    constexpr std::size_t most = 1000;
+    return machine.openCuts.size() >= most && !Fail(machine, "cortes demais, um dentro do outro");
+}
+
 /// The plane through `place` across `normal`, both in the script's frame.
 bool AddCut(ScriptMachine& machine, const Coordinate3D& place, const Coordinate3D& normal) {
     const ScriptFrame& frame = FrameOf(machine);
@@ -118,19 +127,18 @@ bool AddCut(ScriptMachine& machine, const Coordinate3D& place, const Coordinate3
     Coordinate3D across =
         Cross(FrameDirection(frame, u.x, u.y, u.z), FrameDirection(frame, v.x, v.y, v.z));
     const double length = std::hypot(across.x, across.y, across.z);
-    constexpr std::size_t most = 1000;
     if (!(length > 0.0) || !std::isfinite(length)) {
         return Fail(machine, "o plano de corte não tem direção");
     }
-    if (machine.openCuts.size() >= most) {
-        return Fail(machine, "cortes demais, um dentro do outro");
+    if (TooManyCuts(machine)) {
+        return false;
     }
     // A body is cut where it ends: what is open keeps the planes it began under.
     CloseOpenBody(machine.model);
     const double scale = (MirrorsSpace(frame) ? -1.0 : 1.0) / length;
     across = {across.x * scale, across.y * scale, across.z * scale};
     machine.model.cuts.push_back({FramePlace(frame, place.x, place.y, place.z), across});
-    machine.openCuts.push_back(1);
+    machine.openCuts.push_back({1, 0});
     return true;
 }
 
@@ -167,13 +175,74 @@ bool CutPlane(ScriptMachine& machine) {
     return AddCut(machine, place, {normal.x * turn, normal.y * turn, normal.z * turn});
 }
 
-/// Cuts by other shapes than planes: their end must find them.
-bool CutByShape(ScriptMachine& machine) {
-    constexpr std::size_t most = 1000;
-    if (machine.openCuts.size() >= most) {
-        return Fail(machine, "cortes demais, um dentro do outro");
+/// What the statements that build shapes see of the machine.
+void HandOverLook(ScriptMachine& machine) {
+    ModelLook& look = machine.model.look;
+    const std::int32_t material = machine.look.material;
+    look.frame = FrameOf(machine);
+    look.pen = machine.look.plan.pen;
+    look.surface = material > 0 ? material : -1;
+    look.segments = machine.look.curves.segments;
+    look.tolerance = machine.look.curves.tolerance;
+    look.radiusLowest = machine.look.curves.radiusLowest;
+    look.radiusHighest = machine.look.curves.radiusHighest;
+    look.detail = machine.look.detail;
+}
+
+/// Texts among the arguments of shapes name materials.
+void NumberMaterials(ScriptMachine& machine) {
+    for (ScriptValue& argument : machine.arguments) {
+        if (argument.isText) {
+            argument = NumberValue(MaterialNumber(machine, argument));
+        }
     }
-    machine.openCuts.push_back(0);
+}
+
+/// A cut by a solid: see `ReadCuttingForm`.
+bool AddForm(ScriptMachine& machine, std::string_view keyword) {
+    if (TooManyCuts(machine)) {
+        return false;
+    }
+    CloseOpenBody(machine.model);
+    HandOverLook(machine);
+    machine.arguments.resize(machine.argumentCount);
+    NumberMaterials(machine);
+    auto form = std::make_shared<CuttingForm>();
+    std::string refusal = ReadCuttingForm(keyword, machine.arguments, machine.model, *form);
+    if (!refusal.empty()) {
+        return Fail(machine, std::move(refusal));
+    }
+    // They are kept until the cut's end.
+    if (!Spend(machine.model.solidBudget, form->base.size())) {
+        return Fail(machine, SolidsTakeTooMuch);
+    }
+    machine.model.forms.push_back(std::move(form));
+    machine.openCuts.push_back({0, 1});
+    return true;
+}
+
+bool CutPoly(ScriptMachine& machine) {
+    return AddForm(machine, "CUTPOLY");
+}
+
+bool CutPolyA(ScriptMachine& machine) {
+    return AddForm(machine, "CUTPOLYA");
+}
+
+bool CutForm(ScriptMachine& machine) {
+    return AddForm(machine, "CUTFORM");
+}
+
+bool CutFormWithMaterials(ScriptMachine& machine) {
+    return AddForm(machine, "CUTFORM{2}");
+}
+
+/// A cut that takes nothing off: its end must find it.
+bool CutNothing(ScriptMachine& machine) {
+    if (TooManyCuts(machine)) {
+        return false;
+    }
+    machine.openCuts.push_back({});
     return true;
 }
 
@@ -183,7 +252,10 @@ bool CutEnd(ScriptMachine& machine) {
     }
     CloseOpenBody(machine.model);
     std::vector<CuttingPlane>& cuts = machine.model.cuts;
-    cuts.resize(cuts.size() - std::min(cuts.size(), machine.openCuts.back()));
+    auto& forms = machine.model.forms;
+    const OpenCut& ended = machine.openCuts.back();
+    cuts.resize(cuts.size() - std::min(cuts.size(), ended.planes));
+    forms.resize(forms.size() - std::min(forms.size(), ended.forms));
     machine.openCuts.pop_back();
     return true;
 }
@@ -243,6 +315,33 @@ bool EndGroup(ScriptMachine& machine) {
     return true;
 }
 
+/// Cuts the shapes of a group by what is in force where it is placed.
+bool CutGroup(ScriptMachine& machine, ShapeGroup& group) {
+    HandOverLook(machine);
+    for (FacedBody& body : group.bodies) {
+        ShapeSketch sketch;
+        sketch.body = std::move(body);
+        if (std::string refusal = CutSketch(machine.model, sketch); !refusal.empty()) {
+            return Fail(machine, std::move(refusal));
+        }
+        body = std::move(sketch.body);
+    }
+    std::erase_if(group.bodies, [](const FacedBody& body) { return body.faces.empty(); });
+    std::vector<PartWire> wires;
+    for (const PartWire& wire : group.wires) {
+        ShapeSketch sketch;
+        sketch.wires.push_back({wire.begin, wire.end});
+        if (std::string refusal = CutSketch(machine.model, sketch); !refusal.empty()) {
+            return Fail(machine, std::move(refusal));
+        }
+        for (const auto& [begin, end] : sketch.wires) {
+            wires.push_back({begin, end, wire.pen});
+        }
+    }
+    group.wires = std::move(wires);
+    return true;
+}
+
 bool PlaceGroup(ScriptMachine& machine) {
     const std::string name = ShownValue(machine.arguments[0]);
     const auto found = machine.groups.find(name);
@@ -261,6 +360,9 @@ bool PlaceGroup(ScriptMachine& machine) {
     }
     ShapeGroup group = found->second;
     MoveGroup(group, FrameOf(machine));
+    if (!machine.openCuts.empty() && !CutGroup(machine, group)) {
+        return false;
+    }
     PartModel& model = machine.model.model;
     std::move(group.bodies.begin(), group.bodies.end(), std::back_inserter(model.bodies));
     model.wires.insert(model.wires.end(), group.wires.begin(), group.wires.end());
@@ -270,15 +372,6 @@ bool PlaceGroup(ScriptMachine& machine) {
 bool KillGroup(ScriptMachine& machine) {
     machine.groups.erase(ShownValue(machine.arguments[0]));
     return true;
-}
-
-/// Texts among the arguments of shapes name materials.
-void NumberMaterials(ScriptMachine& machine) {
-    for (ScriptValue& argument : machine.arguments) {
-        if (argument.isText) {
-            argument = NumberValue(MaterialNumber(machine, argument));
-        }
-    }
 }
 
 /// Surfaces that no definition stands behind become the pen's colour.
@@ -305,10 +398,14 @@ constexpr StatementEntry Entries[] = {
     {"CUTPLANE", 0, 5, CutPlane, Values, Model, "takes off what lies above a plane"},
     {"CUTPLANE{2}", 0, 5, CutPlane, Values, Model, "the same"},
     {"CUTPLANE{3}", 0, 5, CutPlane, Values, Model, "the same"},
-    {"CUTPOLY", 0, -1, CutByShape, Values, Model, "accepted, cuts nothing"},
-    {"CUTPOLYA", 0, -1, CutByShape, Values, Model, "accepted, cuts nothing"},
-    {"CUTSHAPE", 0, -1, CutByShape, Values, Model, "accepted, cuts nothing"},
-    {"CUTFORM", 0, -1, CutByShape, Values, Model, "accepted, cuts nothing"},
+    {"CUTPOLY", 7, -1, CutPoly, Values, Model,
+     "takes off what lies in an endless prism, along z or a direction"},
+    {"CUTPOLYA", 9, -1, CutPolyA, Values, Model,
+     "the same with status codes; from a distance on, or endless with 0"},
+    {"CUTSHAPE", 0, -1, CutNothing, Values, Model, "accepted, cuts nothing"},
+    {"CUTFORM", 13, -1, CutForm, Values, Model,
+     "takes off what lies in a prism, a pyramid or a wedge, or what does not"},
+    {"CUTFORM{2}", 15, -1, CutFormWithMaterials, Values, Model, "the same, its sides of materials"},
     {"CUTEND", 0, 0, CutEnd, Values, Model, "ends the innermost cut"},
     {"GROUP", 1, 1, BeginGroup, Values, Model, "begins a group of shapes"},
     {"ENDGROUP", 0, 0, EndGroup, Values, Model, "ends it"},
@@ -323,16 +420,7 @@ constexpr StatementEntry Entries[] = {
 } // namespace
 
 bool BuildShapeStatement(ScriptMachine& machine, const std::string& keyword) {
-    ModelLook& look = machine.model.look;
-    const std::int32_t material = machine.look.material;
-    look.frame = FrameOf(machine);
-    look.pen = machine.look.plan.pen;
-    look.surface = material > 0 ? material : -1;
-    look.segments = machine.look.curves.segments;
-    look.tolerance = machine.look.curves.tolerance;
-    look.radiusLowest = machine.look.curves.radiusLowest;
-    look.radiusHighest = machine.look.curves.radiusHighest;
-    look.detail = machine.look.detail;
+    HandOverLook(machine);
     machine.arguments.resize(machine.argumentCount);
     if (!keyword.starts_with("PICTURE")) {
         NumberMaterials(machine);

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "Workbench/Script/PartModel.hpp"
 #include "Workbench/Script/ScriptValue.hpp"
+#include "Workbench/Script/SolidBudget.hpp"
 
 /// The statements of model scripts that build bodies. The interpreter evaluates their arguments and
 /// keeps the transformations; here they become faces.
@@ -49,13 +51,17 @@ struct CuttingPlane {
     Host::Coordinate3D normal;
 };
 
+struct CuttingForm;
+
 /// The model while its script runs.
 struct ModelBuild {
     PartModel model;
     ModelLook look;
     OpenBody open;
-    std::vector<CuttingPlane> cuts; ///< innermost last
-    std::size_t shapeLimit = 0;     ///< from `ScriptLimits`
+    std::vector<CuttingPlane> cuts;                        ///< innermost last
+    std::vector<std::shared_ptr<const CuttingForm>> forms; ///< the same
+    SolidBudget solidBudget;                               ///< from `ScriptLimits`
+    std::size_t shapeLimit = 0;                            ///< from `ScriptLimits`
     std::size_t vertexLimit = 0;
     std::size_t shapeCount = 0;
     std::size_t vertexCount = 0;

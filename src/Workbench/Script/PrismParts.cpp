@@ -28,6 +28,16 @@ Loft PrismLoft(const ShapeProfile& profile, std::int32_t surface) {
     return loft;
 }
 
+void SetSideSurfaces(const ShapeInput& input, const ShapeProfile& profile, std::size_t column,
+                     Loft& loft) {
+    std::size_t at = 0;
+    for (const ShapeRing& ring : profile.rings) {
+        for (const std::size_t row : ring.edgeRows) {
+            loft.edges[at++].surface = SurfaceNumber(input, RowNumber(input, profile, row, column));
+        }
+    }
+}
+
 std::string AddPrism(ShapeSketch& sketch, const Loft& loft, const PrismEnds& ends,
                      const PrismSurfaces& surfaces) {
     if (std::string refusal = CheckLoftRoom(sketch, ends.bottom.size(), 1); !refusal.empty()) {

@@ -26,6 +26,10 @@ PrismSurfaces TakeSurfaces(ShapeInput& input);
 /// The sides of a prism: present by bit 8 of their status.
 Loft PrismLoft(const ShapeProfile& profile, std::int32_t surface);
 
+/// The surfaces that a column of the rows gives to the sides.
+void SetSideSurfaces(const ShapeInput& input, const ShapeProfile& profile, std::size_t column,
+                     Loft& loft);
+
 /// Both ends of a prism, for each point of its loft. Ends that are the same place are one vertex.
 struct PrismEnds {
     std::vector<Host::Coordinate3D> bottom;

@@ -56,17 +56,6 @@ std::string TakeSlope(ShapeInput& input, SlopedPlane& plane) {
     return {};
 }
 
-/// The surfaces that rows give to the sides.
-void SetSideSurfaces(const ShapeInput& input, const ShapeProfile& profile, std::size_t column,
-                     Loft& loft) {
-    std::size_t at = 0;
-    for (const ShapeRing& ring : profile.rings) {
-        for (const std::size_t row : ring.edgeRows) {
-            loft.edges[at++].surface = SurfaceNumber(input, RowNumber(input, profile, row, column));
-        }
-    }
-}
-
 PrismEnds StraightEnds(const ShapeProfile& profile, double height) {
     PrismEnds ends;
     for (const Coordinate& point : ProfilePoints(profile)) {

@@ -11,6 +11,7 @@
 
 #include "Workbench/Script/ModelStatements.hpp"
 #include "Workbench/Script/PlanSymbolDrawing.hpp"
+#include "Workbench/Script/ScriptGroups.hpp"
 #include "Workbench/Script/ScriptPolyline.hpp"
 #include "Workbench/Script/ScriptProgram.hpp"
 #include "Workbench/Script/ScriptRun.hpp"
@@ -80,10 +81,10 @@ struct PartFrame {
     bool ended = false;                ///< by END
 };
 
-/// A group of shapes of a model script, in the frame that was in force where it began.
-struct ShapeGroup {
-    std::vector<FacedBody> bodies;
-    std::vector<PartWire> wires;
+/// What one of the open cuts set, to be taken back at its end.
+struct OpenCut {
+    std::size_t planes = 0;
+    std::size_t forms = 0;
 };
 
 struct ScriptMachine {
@@ -102,10 +103,11 @@ struct ScriptMachine {
     std::map<std::string, TextStyle, std::less<>> styles;
     std::map<std::string, std::int32_t, std::less<>> materials; ///< defined by scripts
     std::map<std::string, ShapeGroup, std::less<>> groups;
-    std::string openGroup; ///< empty = none
-    ShapeGroup outside;    ///< what was there before it
+    std::size_t madeGroups = 0; ///< by functions: they are numbered
+    std::string openGroup;      ///< empty = none
+    ShapeGroup outside;         ///< what was there before it
     ScriptFrame groupFrame = UnmovedFrame;
-    std::vector<std::size_t> openCuts; ///< planes that each of the open cuts set
+    std::vector<OpenCut> openCuts; ///< innermost last
     std::uint64_t random = 1;
 
     // Of the statement that runs.

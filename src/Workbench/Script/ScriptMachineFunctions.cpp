@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string>
 
 #include "Text/Ascii.hpp"
@@ -140,47 +141,84 @@ bool NoText(ScriptMachine&, FunctionCall& call) {
     return true;
 }
 
-/// Two groups as a new one. What a difference takes away and what an intersection leaves is not
-/// worked out: the first group stands for both.
-bool JoinGroups(ScriptMachine& machine, FunctionCall& call, bool both) {
-    ShapeGroup joined;
-    for (std::size_t i = 0; i < 2; ++i) {
-        const auto found = machine.groups.find(ShownValue(call.values[i]));
-        if (found == machine.groups.end()) {
-            return Fail(machine,
-                        "o grupo " + Text::QuotedText(ShownValue(call.values[i])) + " não existe");
+/// The group that an argument names; null, with `failure` set, where there is none.
+const ShapeGroup* GroupOf(ScriptMachine& machine, const ScriptValue& name) {
+    const auto found = machine.groups.find(ShownValue(name));
+    if (found == machine.groups.end()) {
+        Fail(machine, "o grupo " + Text::QuotedText(ShownValue(name)) + " não existe");
+        return nullptr;
+    }
+    return &found->second;
+}
+
+/// The second group as the forms with a material want it: (first, second, pen of the new edges,
+/// material of the new faces, its colour, status). Without a material, and with bit 2 of the
+/// status, new faces keep the look that they have in the second group.
+ShapeGroup WithNewFaces(const ScriptMachine& machine, const FunctionCall& call, ShapeGroup group) {
+    constexpr std::size_t material = 3;
+    constexpr std::size_t status = 5;
+    constexpr std::int32_t keepsLook = 2;
+    const std::int32_t surface =
+        call.valueCount > material ? MaterialNumber(machine, call.values[material]) : 0;
+    const bool keeps =
+        call.valueCount > status && (WholeNumber(call.values[status].number) & keepsLook) != 0;
+    if (surface <= 0 || keeps) {
+        return group;
+    }
+    for (FacedBody& body : group.bodies) {
+        for (ContouredFace& face : body.faces) {
+            face.surface = surface;
         }
-        const ShapeGroup& group = found->second;
-        if (i > 0 && !both) {
-            continue;
-        }
-        for (const FacedBody& body : group.bodies) {
-            if (!CountShape(machine, body.vertices.size())) {
-                return false;
-            }
-            joined.bodies.push_back(body);
-        }
-        if (!CountShape(machine, 2 * group.wires.size())) {
-            return false;
-        }
-        joined.wires.insert(joined.wires.end(), group.wires.begin(), group.wires.end());
+    }
+    return group;
+}
+
+bool CountGroup(ScriptMachine& machine, const ShapeGroup& group) {
+    std::size_t vertices = 2 * group.wires.size();
+    for (const FacedBody& body : group.bodies) {
+        vertices += body.vertices.size();
+        machine.shapes += body.faces.size();
+    }
+    return CountShape(machine, vertices);
+}
+
+/// Two groups as a new one.
+bool MakeGroup(ScriptMachine& machine, FunctionCall& call, BodyOperation operation) {
+    const ShapeGroup* const first = GroupOf(machine, call.values[0]);
+    const ShapeGroup* const second = first == nullptr ? nullptr : GroupOf(machine, call.values[1]);
+    if (second == nullptr) {
+        return false;
     }
     constexpr std::size_t most = 10'000;
     if (machine.groups.size() >= most) {
         return Fail(machine, "grupos demais");
     }
-    const std::string name = "#" + std::to_string(machine.groups.size());
-    machine.groups[name] = std::move(joined);
+    const bool hasNewFaces = operation != BodyOperation::Union;
+    std::optional<ShapeGroup> made =
+        CombineGroups(*first, hasNewFaces ? WithNewFaces(machine, call, *second) : *second,
+                      operation, machine.model.solidBudget);
+    if (!made) {
+        return Fail(machine, SolidsTakeTooMuch);
+    }
+    if (!CountGroup(machine, *made)) {
+        return false;
+    }
+    const std::string name = "#" + std::to_string(++machine.madeGroups);
+    machine.groups[name] = std::move(*made);
     call.result = TextValue(name);
     return true;
 }
 
 bool AddGroups(ScriptMachine& machine, FunctionCall& call) {
-    return JoinGroups(machine, call, true);
+    return MakeGroup(machine, call, BodyOperation::Union);
 }
 
-bool FirstGroup(ScriptMachine& machine, FunctionCall& call) {
-    return JoinGroups(machine, call, false);
+bool SubtractGroups(ScriptMachine& machine, FunctionCall& call) {
+    return MakeGroup(machine, call, BodyOperation::Difference);
+}
+
+bool IntersectGroups(ScriptMachine& machine, FunctionCall& call) {
+    return MakeGroup(machine, call, BodyOperation::Intersection);
 }
 
 constexpr std::int32_t Any = 1000;
@@ -207,12 +245,16 @@ constexpr FunctionEntry Entries[] = {
     {"PARVALUE_DESCRIPTION", 1, 2, NoText, 0, false, "an empty text"},
     {"OPEN", 1, Any, NoFile, -1, false, "-1: there are no files"},
     {"INPUT", 1, Any, NoFile, 3, false, "-1: there are no files"},
-    {"ADDGROUP", 2, 2, AddGroups, -1, false, "both groups as one"},
+    {"ADDGROUP", 2, 2, AddGroups, -1, false, "both groups as one, bodies that meet united"},
     {"ADDGROUP{2}", 2, Any, AddGroups, -1, false, "the same"},
-    {"SUBGROUP", 2, 2, FirstGroup, -1, false, "the first group: nothing is taken away from it"},
-    {"SUBGROUP{2}", 2, Any, FirstGroup, -1, false, "the same"},
-    {"ISECTGROUP", 2, 2, FirstGroup, -1, false, "the first group whole"},
-    {"ISECTGROUP{2}", 2, Any, FirstGroup, -1, false, "the same"},
+    {"ADDGROUP{3}", 2, Any, AddGroups, -1, false, "the same"},
+    {"SUBGROUP", 2, 2, SubtractGroups, -1, false, "the first group less the second"},
+    {"SUBGROUP{2}", 2, Any, SubtractGroups, -1, false, "the same, new faces of a material"},
+    {"SUBGROUP{3}", 2, Any, SubtractGroups, -1, false, "the same"},
+    {"ISECTGROUP", 2, 2, IntersectGroups, -1, false, "what two groups have in common"},
+    {"ISECTGROUP{2}", 2, Any, IntersectGroups, -1, false,
+     "the same, faces of the second of a material"},
+    {"ISECTGROUP{3}", 2, Any, IntersectGroups, -1, false, "the same"},
 };
 
 } // namespace

@@ -99,8 +99,9 @@ bool TakeReturned(ScriptMachine& machine, const ScriptProgram& program,
 bool RunMacro(ScriptMachine& machine, PartFrame& macro) {
     const ScriptLook look = machine.look;
     const std::size_t entries = machine.transforms.entries.size();
-    const std::vector<std::size_t> cuts = machine.openCuts;
+    const std::vector<OpenCut> cuts = machine.openCuts;
     const std::vector<CuttingPlane> planes = machine.model.cuts;
+    const auto forms = machine.model.forms;
     ++machine.depth;
     const bool ran = RunPart(machine, macro);
     --machine.depth;
@@ -111,6 +112,7 @@ bool RunMacro(ScriptMachine& machine, PartFrame& macro) {
         }
         machine.openCuts = cuts;
         machine.model.cuts = planes;
+        machine.model.forms = forms;
         machine.look = look;
     }
     return ran;

@@ -33,6 +33,7 @@ void StartMachine(ScriptMachine& machine, const ScriptEnvironment& environment, 
     machine.kind = kind;
     machine.model.shapeLimit = environment.limits.shapes;
     machine.model.vertexLimit = environment.limits.vertices;
+    machine.model.solidBudget.left = environment.limits.solidWork;
     machine.look.plan.pen = environment.symbolPen;
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "Workbench/Script/BodyClipping.hpp"
+#include "Workbench/Script/CuttingForms.hpp"
 #include "Workbench/Script/ShapeVectors.hpp"
 
 namespace Merivane::Workbench {
@@ -43,7 +44,7 @@ void TurnIntoWires(ShapeSketch& sketch) {
     sketch.body = {};
 }
 
-void CutSketch(const ModelBuild& build, ShapeSketch& sketch) {
+void CutByPlanes(const ModelBuild& build, ShapeSketch& sketch) {
     if (build.cuts.empty()) {
         return;
     }
@@ -57,6 +58,11 @@ void CutSketch(const ModelBuild& build, ShapeSketch& sketch) {
 }
 
 } // namespace
+
+std::string CutSketch(ModelBuild& build, ShapeSketch& sketch) {
+    CutByPlanes(build, sketch);
+    return CutByForms(build, sketch);
+}
 
 ShapeSketch StartSketch(const ModelBuild& build) {
     ShapeSketch sketch;
@@ -74,7 +80,9 @@ std::string AddToModel(ModelBuild& build, ShapeSketch& sketch) {
     }
     DropUnusedVertices(sketch.body);
     FlattenFaces(sketch.body);
-    CutSketch(build, sketch);
+    if (std::string refusal = CutSketch(build, sketch); !refusal.empty()) {
+        return refusal;
+    }
     if (build.look.detail == ModelLook::Detail::Wire) {
         TurnIntoWires(sketch);
     }

@@ -11,9 +11,13 @@ namespace Merivane::Workbench {
 /// An empty sketch with the room that the model has left.
 ShapeSketch StartSketch(const ModelBuild& build);
 
-/// Adds what a sketch holds, in the part's frame by now: cut by the planes in force, as faces or,
-/// with MODEL WIRE, as lines. Returns an empty text, or why the model can't take it, in Portuguese;
-/// then nothing was added.
+/// Cuts a sketch, in the part's frame, by the planes and forms in force. Returns an empty text, or
+/// why that takes too much, in Portuguese.
+std::string CutSketch(ModelBuild& build, ShapeSketch& sketch);
+
+/// Adds what a sketch holds, in the part's frame by now: cut by the planes and forms in force, as
+/// faces or, with MODEL WIRE, as lines. Returns an empty text, or why the model can't take it, in
+/// Portuguese; then nothing was added.
 std::string AddToModel(ModelBuild& build, ShapeSketch& sketch);
 
 } // namespace Merivane::Workbench

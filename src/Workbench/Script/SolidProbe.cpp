@@ -170,12 +170,6 @@ bool CountLeaving(const SolidProbe& probe, const Coordinate3D& place, const Coor
 
 } // namespace
 
-bool Spend(SolidBudget& budget, std::size_t looks) {
-    const bool reaches = looks <= budget.left;
-    budget.left = reaches ? budget.left - looks : 0;
-    return reaches;
-}
-
 CuttingPlane FacePlane(const FacedBody& body, const ContouredFace& face) {
     const Contour& outline = face.contours.front();
     const Coordinate3D normal = DoubledNormal(body, outline);

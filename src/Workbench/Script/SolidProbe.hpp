@@ -15,14 +15,6 @@ namespace Merivane::Workbench {
 /// vertex for one on the plane, so that what was cut twice the same way meets again.
 inline constexpr double SamePlace = 4e-9;
 
-/// What operations on solids may still look at, in vertices of faces: it bounds their time.
-struct SolidBudget {
-    std::size_t left = 0;
-};
-
-/// False when the budget does not reach; then nothing is left of it.
-bool Spend(SolidBudget& budget, std::size_t looks);
-
 /// A closed body made ready for questions; it must stand while it is asked.
 struct SolidProbe {
     const FacedBody* body = nullptr;

@@ -106,9 +106,9 @@ TEST(BodyBooleans, LeaveFewFaces) {
     EXPECT_EQ(Combined(box, box, BodyOperation::Intersection).faces.size(), 6U);
     EXPECT_TRUE(Combined(box, box, BodyOperation::Difference).faces.empty());
     // A plate with a round hole: two faces with the hole in them, the rim and the hole's wall.
-    const FacedBody plate = Combined(Box(-1, -1, 0, 2, 2, 0.1),
-                                     Shape("CYLIND", {1.0, 0.5}, MoveFrame(0, 0, -0.5)),
-                                     BodyOperation::Difference);
+    const FacedBody plate =
+        Combined(Box(-1, -1, 0, 2, 2, 0.1), Shape("CYLIND", {1.0, 0.5}, MoveFrame(0, 0, -0.5)),
+                 BodyOperation::Difference);
     EXPECT_EQ(plate.faces.size(), 6U + 36U);
     EXPECT_NEAR(SolidVolume(plate), 0.4 - 0.1 * 18.0 * 0.25 * std::sin(Pi / 18.0), 1e-12);
 }
@@ -117,8 +117,7 @@ TEST(BodyBooleans, MakeShellsOfRoundBodies) {
     const double circle = 18.0 * std::sin(Pi / 18.0); // 36 chords, radius 1
     const FacedBody outer = Shape("CYLIND", {1.0, 1.0});
     // Its ends flush with the outer one's, or inside.
-    const FacedBody tube =
-        Combined(outer, Shape("CYLIND", {1.0, 0.8}), BodyOperation::Difference);
+    const FacedBody tube = Combined(outer, Shape("CYLIND", {1.0, 0.8}), BodyOperation::Difference);
     EXPECT_NEAR(SolidVolume(tube), circle * (1.0 - 0.64), 1e-12);
     EXPECT_EQ(tube.faces.size(), 74U);
     const FacedBody cup = Combined(outer, Shape("CYLIND", {1.0, 0.8}, MoveFrame(0, 0, 0.2)),
@@ -134,8 +133,9 @@ TEST(BodyBooleans, MakeShellsOfRoundBodies) {
 }
 
 TEST(BodyBooleans, TakePrismsWithHoles) {
-    const FacedBody frame = Shape("PRISM_", {10, 1, 0, 0, 15, 4, 0, 15, 4, 4, 15, 0, 4, 15, 0, 0,
-                                             -1, 1, 1, 15, 3, 1, 15, 3, 3, 15, 1, 3, 15, 1, 1, -1});
+    const FacedBody frame =
+        Shape("PRISM_", {10, 1, 0, 0,  15, 4, 0,  15, 4, 4,  15, 0, 4,  15, 0, 0,
+                         -1, 1, 1, 15, 3,  1, 15, 3,  3, 15, 1,  3, 15, 1,  1, -1});
     EXPECT_NEAR(SolidVolume(frame), 12.0, 1e-12);
     ExpectVolumes(Box(0, 0, 0, 4, 4, 1), frame, 12.0);
     ExpectVolumes(Box(0, 0, 0.5, 4, 4, 1), frame, 6.0);
@@ -158,9 +158,9 @@ TEST(BodyBooleans, KeepTheSurfaceOfEachFace) {
 
 ScriptFrame RandomFrame(std::mt19937& random) {
     std::uniform_real_distribution<double> number(-1.0, 1.0);
-    return CombineFrames(MoveFrame(number(random), number(random), number(random)),
-                         TurnFrame(number(random), number(random), number(random) + 1.5,
-                                   180.0 * number(random)));
+    return CombineFrames(
+        MoveFrame(number(random), number(random), number(random)),
+        TurnFrame(number(random), number(random), number(random) + 1.5, 180.0 * number(random)));
 }
 
 FacedBody RandomSolid(std::mt19937& random) {
@@ -175,9 +175,8 @@ FacedBody RandomSolid(std::mt19937& random) {
     case 1: // an L
         return Shape("PRISM", {6, c, 0, 0, 2 * a, 0, 2 * a, b, a, b, a, 2 * b, 0, 2 * b}, frame);
     default: // with a hole
-        return Shape("PRISM_", {9,  c, 0, 0, 15, 4 * a, 0, 15, 4 * a, 4 * b, 15, 0,
-                                4 * b, 15, 0, 0, -1, a, b, 15, 2 * a, b, 15, a, 2 * b,
-                                15, a, b, -1},
+        return Shape("PRISM_", {9, c,  0, 0, 15, 4 * a, 0, 15, 4 * a, 4 * b, 15, 0, 4 * b, 15, 0,
+                                0, -1, a, b, 15, 2 * a, b, 15, a,     2 * b, 15, a, b,     -1},
                      frame);
     }
 }
@@ -209,8 +208,8 @@ TEST(BodyBooleans, AddUpInRandomFrames) {
 TEST(BodyBooleans, AddUpWhereFacesFallTogether) {
     std::mt19937 random(5);
     const auto whole = [&](int least, int most) {
-        return static_cast<double>(least + static_cast<int>(random() % static_cast<unsigned>(
-                                                                           most - least + 1)));
+        return static_cast<double>(
+            least + static_cast<int>(random() % static_cast<unsigned>(most - least + 1)));
     };
     for (int i = 0; i < 300; ++i) {
         SCOPED_TRACE(i);
