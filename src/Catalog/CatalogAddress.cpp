@@ -10,8 +10,6 @@ namespace Merivane::Catalog {
 
 namespace {
 
-constexpr std::string_view IndexName = "catalogo.json";
-
 // Set by the build: the site whose pages people paste, and where it serves bare files, by
 // owner/repository/branch/file.
 constexpr std::string_view CodeHost = VANTORO_CODE_HOST;
@@ -31,10 +29,10 @@ std::string_view TrimPasted(std::string_view text) {
 }
 
 std::string_view WithoutIndexName(std::string_view path) {
-    if (path.size() <= IndexName.size() || !EndsInAnyCase(path, IndexName)) {
+    if (path.size() <= CatalogIndexName.size() || !EndsInAnyCase(path, CatalogIndexName)) {
         return path;
     }
-    path.remove_suffix(IndexName.size());
+    path.remove_suffix(CatalogIndexName.size());
     while (path.ends_with('\\') || path.ends_with('/')) {
         path.remove_suffix(1);
     }
@@ -93,9 +91,9 @@ std::string NormalizeRemote(std::string_view text) {
     if (std::string raw = RawContentAddress(address); !raw.empty()) {
         address = std::move(raw);
     }
-    const std::string indexEnd = "/" + std::string(IndexName);
+    const std::string indexEnd = "/" + std::string(CatalogIndexName);
     if (address.size() > indexEnd.size() && EndsInAnyCase(address, indexEnd)) {
-        address.resize(address.size() - IndexName.size());
+        address.resize(address.size() - CatalogIndexName.size());
     }
     return address.ends_with('/') ? address : address + "/";
 }
@@ -113,15 +111,19 @@ std::string NormalizeCatalogAddress(std::string_view text) {
                                    : std::string(WithoutIndexName(pasted));
 }
 
+std::string_view WithoutLeadingSlashes(std::string_view path) {
+    path.remove_prefix(std::min(path.find_first_not_of('/'), path.size()));
+    return path;
+}
+
 std::string ResolveInCatalog(std::string_view base, std::string_view relativePath) {
-    relativePath.remove_prefix(std::min(relativePath.find_first_not_of('/'), relativePath.size()));
     const bool isRemote = IsRemoteAddress(base);
     constexpr char Separator = static_cast<char>(std::filesystem::path::preferred_separator);
     std::string address(base);
     if (!address.ends_with('/') && (isRemote || !address.ends_with(Separator))) {
         address += isRemote ? '/' : Separator;
     }
-    for (const char c : relativePath) {
+    for (const char c : WithoutLeadingSlashes(relativePath)) {
         if (isRemote && c == ' ') {
             address += "%20";
         } else {

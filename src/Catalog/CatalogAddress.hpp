@@ -6,6 +6,9 @@
 /// Where a catalogue stands: a folder of this computer, or an address on the web. All in UTF-8.
 namespace Merivane::Catalog {
 
+/// Name of the index in a catalogue's root.
+inline constexpr std::string_view CatalogIndexName = "catalogo.json";
+
 /// True for a text that starts with "http://" or "https://", whatever its letter case.
 bool IsRemoteAddress(std::string_view text);
 
@@ -14,6 +17,9 @@ bool IsRemoteAddress(std::string_view text);
 /// has neither query nor fragment; a repository page becomes the raw content of its branch ("main"
 /// where none is named). Empty stays empty.
 std::string NormalizeCatalogAddress(std::string_view text);
+
+/// A path of a catalogue without the slashes before it, which have no meaning.
+std::string_view WithoutLeadingSlashes(std::string_view path);
 
 /// The full address of a file of a catalogue. Slashes before `relativePath` go; on the web a blank
 /// becomes "%20", in a folder "/" becomes this system's separator.

@@ -1,6 +1,5 @@
 #include "Catalog/CatalogFetch.hpp"
 
-#include <algorithm>
 #include <utility>
 
 #include "Catalog/CatalogAddress.hpp"
@@ -29,7 +28,7 @@ std::string NotFound(const std::string& path) {
 Text::FileHandle OpenInFolder(const std::string& folder, std::string_view relativePath,
                               std::string& error) {
     const std::string path = ResolveInCatalog(folder, relativePath);
-    relativePath.remove_prefix(std::min(relativePath.find_first_not_of('/'), relativePath.size()));
+    relativePath = WithoutLeadingSlashes(relativePath);
     if (const PathFault fault = FaultOfPath(relativePath); fault != PathFault::None) {
         error = RefusedPath(fault, relativePath);
         return nullptr;

@@ -10,9 +10,6 @@
 
 namespace Merivane::Catalog {
 
-/// Name of the index in a catalogue's root.
-inline constexpr std::string_view CatalogIndexName = "catalogo.json";
-
 /// The format that is written, and the highest one that is understood.
 inline constexpr int CatalogFormat = 1;
 

@@ -45,7 +45,7 @@ bool IsMeantForTheWeb(const std::string& text) {
     if (std::filesystem::exists(Text::NativePath(Text::Widen(text)), code)) {
         return false;
     }
-    const std::string host = text.substr(0, text.find('/'));
+    const std::string host = text.substr(0, text.find_first_of("/\\"));
     const std::size_t point = host.find('.');
     const bool hasDomain = point != std::string::npos && point > 0 && point + 1 < host.size();
     return text.find("://") != std::string::npos || hasDomain;

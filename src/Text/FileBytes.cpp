@@ -30,11 +30,11 @@ bool WriteAndClose(FileHandle file, std::string_view bytes, bool sync) {
 
 /// A name beside a file that nobody guesses.
 std::wstring FreshNameBeside(const std::wstring& path) {
-    constexpr int Digits = 16;
+    constexpr int DigitsOfName = 16;
     std::random_device random;
     std::uniform_int_distribution<std::size_t> digit(0, 15);
     std::wstring name = path + L".parcial-";
-    for (int i = 0; i < Digits; ++i) {
+    for (int i = 0; i < DigitsOfName; ++i) {
         name += L"0123456789abcdef"[digit(random)];
     }
     return name;

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Catalog/CatalogAddress.hpp"
 #include "Catalog/CatalogIndex.hpp"
 #include "Catalog/CatalogSamples.hpp"
 

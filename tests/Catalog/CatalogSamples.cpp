@@ -1,5 +1,6 @@
 #include "Catalog/CatalogSamples.hpp"
 
+#include "Catalog/CatalogAddress.hpp"
 #include "Catalog/CatalogIndex.hpp"
 #include "Catalog/ProductAddress.hpp"
 #include "Catalog/Sha256.hpp"
