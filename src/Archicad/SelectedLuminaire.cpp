@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "AddOn/RunLog/RunLog.hpp"
+#include "Host/Attributes.hpp"
 
 namespace Merivane::Archicad {
 
@@ -67,6 +68,20 @@ bool FindSelectedLuminaireObject(Host::Element& element, std::string& errorText)
         return false;
     }
     element = std::move(objects.front());
+    return true;
+}
+
+bool CanBeReplaced(const Host::Element& element, std::string& errorText) {
+    if (element.header.locked) {
+        errorText = "O objeto selecionado está bloqueado. Desbloqueie-o antes de rodar o comando.";
+        return false;
+    }
+    Host::Layer layer;
+    if (Host::GetLayer(element.header.layer, layer) == Host::NoError && layer.locked) {
+        errorText = "O objeto selecionado está na camada bloqueada \"" + layer.name +
+                    "\". Desbloqueie-a antes de rodar o comando.";
+        return false;
+    }
     return true;
 }
 

@@ -11,4 +11,8 @@ namespace Merivane::Archicad {
 /// `errorText`, for none and for several; `element` is then as it was.
 bool FindSelectedLuminaireObject(Host::Element& element, std::string& errorText);
 
+/// True unless the user has locked the element or its layer, which the host would refuse to change
+/// only after all the work; then false, with one Portuguese sentence in `errorText`.
+bool CanBeReplaced(const Host::Element& element, std::string& errorText);
+
 } // namespace Merivane::Archicad

@@ -218,6 +218,11 @@ CLI::App* AddDraw(CLI::App& app, RawLine& line) {
             error = "--janela não vai junto com --pavimento nem com --axonometria";
             return false;
         }
+        if (line.draw.symbols && (line.draw.axonometry || !line.draw.window.empty())) {
+            error = "--simbolos só vale nas plantas: não vai junto com --janela nem com "
+                    "--axonometria";
+            return false;
+        }
         return JudgeScale(line.drawingScale, line.draw.scale, error) &&
                JudgeFloor(line.floor, line.draw.floor, error);
     });

@@ -96,7 +96,10 @@ int RunCommand(const RunArguments& arguments) {
         TellError("comando cancelado");
         return StatusCancelled;
     }
-    return done && SaveProject(arguments, error) ? StatusDone : Fail(error);
+    if (!done || !SaveProject(arguments, error)) {
+        return Fail(error);
+    }
+    return Commands::FailureTold() ? StatusFailed : StatusDone;
 }
 
 } // namespace Merivane::Program

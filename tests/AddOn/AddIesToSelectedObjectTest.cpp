@@ -107,6 +107,18 @@ TEST_F(AddIesCommand, RefusesASelectionBeforeItAsksForAFile) {
     }
 }
 
+TEST_F(AddIesCommand, RefusesALockedObjectBeforeItAsksForAFile) {
+    Select({Tests::LampToSelect});
+    for (Workbench::ProjectElement& element : Workbench::CurrentSession().project.elements) {
+        element.element.header.locked = true;
+    }
+    Run();
+    EXPECT_EQ(Tests::ReportWindow(),
+              Lines{"!Vantoro: O objeto selecionado está bloqueado. Desbloqueie-o antes de rodar o "
+                    "comando."});
+    EXPECT_TRUE(Interface().shownFileChoices.empty());
+}
+
 TEST_F(AddIesCommand, SwapsALampThatStaysTheSameElement) {
     Select({Tests::LampToSelect, Tests::WallToSelect});
     PrepareBoth(spot, "");

@@ -219,6 +219,21 @@ TEST_F(RunLog, ReportsAFailedCallWithNameAndCode) {
     EXPECT_EQ(ReportWindow(), (Lines{"Vantoro: " + lines[0], "Vantoro: " + lines[1]}));
 }
 
+TEST_F(RunLog, KnowsUntilTheNextCommandThatSomethingDidNotGo) {
+    BeginLog("primeiro");
+    ReportLine("uma linha");
+    CheckError("Criar hachura", Host::NoError);
+    EXPECT_FALSE(FailureTold());
+    CheckError("Criar hachura", Host::NeedsUndoScope);
+    EXPECT_TRUE(FailureTold());
+    BeginLog("segundo");
+    EXPECT_FALSE(FailureTold());
+    Alert("Nenhuma Zona");
+    EXPECT_TRUE(FailureTold());
+    BeginLog("terceiro");
+    EXPECT_FALSE(FailureTold());
+}
+
 TEST_F(RunLog, SaysNothingOfACallThatSucceeded) {
     EXPECT_EQ(CheckError("Criar hachura", Host::NoError), Host::NoError);
     EXPECT_EQ(ReportWindow(), Lines{});

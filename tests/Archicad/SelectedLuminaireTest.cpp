@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Host/Attributes.hpp"
 #include "Host/Library.hpp"
 #include "ModelSample.hpp"
 #include "Workbench/Session.hpp"
@@ -101,6 +102,27 @@ TEST(FindSelectedLuminaireObject, RefusesAllElseInOneSentence) {
         EXPECT_EQ(errorText, c.error);
         EXPECT_EQ(element, Host::Element{});
     }
+}
+
+TEST(CanBeReplaced, IsRefusedForWhatTheUserHasLocked) {
+    Select({Lamp});
+    Host::Element element;
+    std::string errorText;
+    ASSERT_TRUE(FindSelectedLuminaireObject(element, errorText));
+    EXPECT_TRUE(CanBeReplaced(element, errorText));
+    EXPECT_EQ(errorText, "");
+
+    element.header.locked = true;
+    EXPECT_FALSE(CanBeReplaced(element, errorText));
+    EXPECT_EQ(errorText,
+              "O objeto selecionado está bloqueado. Desbloqueie-o antes de rodar o comando.");
+
+    element.header.locked = false;
+    ASSERT_EQ(Host::CreateLayer({"Luminárias", false, true}, element.header.layer), Host::NoError);
+    ASSERT_EQ(Host::ChangeLayer(element.header.layer, {"Luminárias", false, true}), Host::NoError);
+    EXPECT_FALSE(CanBeReplaced(element, errorText));
+    EXPECT_EQ(errorText, "O objeto selecionado está na camada bloqueada \"Luminárias\". "
+                         "Desbloqueie-a antes de rodar o comando.");
 }
 
 TEST(FindSelectedLuminaireObject, PassesOverWhatTheHostDoesNotGive) {

@@ -81,6 +81,16 @@ TEST_F(AddIesProgram, RefusesAFileThatIsNotThereAndLeavesTheProject) {
     EXPECT_EQ(ReadBytes(folder.Path() / "p.vantoro"), before);
 }
 
+TEST_F(AddIesProgram, FailsWhereTheCommandTellsThatItDidNothing) {
+    const std::string before = ReadBytes(folder.Path() / "p.vantoro");
+    WriteBytes(folder.Path() / "spot.ies", "IESNA:LM-63-2002\nTILT=NONE\n1 1000\n");
+    const ProgramEnd end = Run("[" + ChooseSpot + "]");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error, "Vantoro: O arquivo IES foi recusado: arquivo termina antes de numero de "
+                         "angulos verticais\n");
+    EXPECT_EQ(ReadBytes(folder.Path() / "p.vantoro"), before);
+}
+
 TEST_F(AddIesProgram, AsksForAnAnswerToTheChoiceOfTheFile) {
     const ProgramEnd end = Run("[]");
     EXPECT_EQ(end.status, 1);

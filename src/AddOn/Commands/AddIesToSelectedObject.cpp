@@ -33,7 +33,8 @@ struct Conversion {
 
 bool FindObject(Conversion& conversion) {
     std::string errorText;
-    if (!Archicad::FindSelectedLuminaireObject(conversion.element, errorText)) {
+    if (!Archicad::FindSelectedLuminaireObject(conversion.element, errorText) ||
+        !Archicad::CanBeReplaced(conversion.element, errorText)) {
         Alert(errorText);
         return false;
     }

@@ -40,6 +40,8 @@ constexpr NamedCode NamedCodes[] = {
     {0x8106038D, "APIERR_NEEDSUNDOSCOPE"},
 };
 
+bool failureTold = false; // by the command that runs
+
 std::string Hexadecimal(Host::ErrorCode code) {
     std::array<char, 8> digits;
     const auto result = std::to_chars(digits.data(), digits.data() + digits.size(),
@@ -92,6 +94,7 @@ void BeginLog(std::string_view title) {
     AppendLog(ProgressFile, line, true);
     AppendLog(ReportFile, line, true);
     AppendLog(HistoryFile, line, false);
+    failureTold = false;
 }
 
 void Progress(std::string_view text) {
@@ -109,6 +112,7 @@ void ReportLine(std::string_view text) {
 }
 
 void Alert(std::string_view text) {
+    failureTold = true;
     Report(text, true);
 }
 
@@ -123,10 +127,15 @@ std::string ErrorName(Host::ErrorCode code) {
 
 Host::ErrorCode CheckError(std::string_view what, Host::ErrorCode code) {
     if (code != Host::NoError) {
+        failureTold = true;
         ReportLine(std::string(what) + " failed: " + ErrorName(code) + " (0x" + Hexadecimal(code) +
                    ")");
     }
     return code;
+}
+
+bool FailureTold() {
+    return failureTold;
 }
 
 } // namespace Merivane::Commands

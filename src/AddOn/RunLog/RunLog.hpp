@@ -36,7 +36,7 @@ void Report(std::string_view text, bool showDialog);
 /// `Report` without an alert.
 void ReportLine(std::string_view text);
 
-/// `Report` with an alert.
+/// `Report` with an alert, for what did not go.
 void Alert(std::string_view text);
 
 /// The host's name of an error code, "unknown error 0x..." for one that the log does not know.
@@ -44,5 +44,9 @@ std::string ErrorName(Host::ErrorCode code);
 
 /// Reports "`what` failed: NAME (0xCODE)" unless `code` is 0. Returns `code`.
 Host::ErrorCode CheckError(std::string_view what, Host::ErrorCode code);
+
+/// Whether the command has told by `Alert` or `CheckError`, since its `BeginLog`, that something
+/// did not go.
+bool FailureTold();
 
 } // namespace Merivane::Commands
