@@ -77,9 +77,12 @@ ErrorCode BuiltInParent(std::int32_t number, std::string& parentId) {
 
 ErrorCode WriteParameterSection(const Host::NewLibraryPart& part, double sizeA, double sizeB,
                                 const std::vector<Host::LibraryParameter>& parameters,
-                                ErrorCode& listCode) {
+                                ErrorCode& listCode, std::string_view details) {
     std::string bytes;
     listCode = Host::MakeParameterSection(part, sizeA, sizeB, parameters, bytes);
+    if (listCode == Host::NoError && !details.empty()) {
+        listCode = Host::SetPartDetails(details, bytes);
+    }
     if (listCode != Host::NoError) {
         return listCode;
     }

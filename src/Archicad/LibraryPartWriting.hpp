@@ -43,9 +43,10 @@ Host::ErrorCode BuiltInParent(std::int32_t number, std::string& parentId);
 
 /// The host's own form of the parameters, written as the part's section. `listCode` tells whether
 /// they could be brought into that form, the result whether the section could be written, too.
+/// `details` are those of a part that this one is made from, empty for one from scratch.
 Host::ErrorCode WriteParameterSection(const Host::NewLibraryPart& part, double sizeA, double sizeB,
                                       const std::vector<Host::LibraryParameter>& parameters,
-                                      Host::ErrorCode& listCode);
+                                      Host::ErrorCode& listCode, std::string_view details = {});
 
 /// A part that is being made: the host wants it saved whatever happens after it was begun. One that
 /// is not finished when this goes is saved, its file removed and the libraries read anew, so that

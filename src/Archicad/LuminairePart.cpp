@@ -26,8 +26,9 @@ constexpr const char* NameWithoutOne = "Luminaria IES";
 struct LuminaireContent {
     std::vector<CopiedSection> sections;
     std::vector<LibraryParameter> parameters;
-    double sizeA = 1.0; ///< [m]
-    double sizeB = 1.0; ///< [m]
+    double sizeA = 1.0;  ///< [m]
+    double sizeB = 1.0;  ///< [m]
+    std::string details; ///< how the source treats its parameters, in the host's own form
 };
 
 /// The first solid fill of the project, 0 without one.
@@ -64,6 +65,20 @@ void ApplyOverrides(const AddBlockRequest& request, std::vector<LibraryParameter
     }
 }
 
+/// A dictionary whose content the host does not tell would be an empty one in the new part.
+void DropUntoldDictionaries(std::vector<LibraryParameter>& parameters, Warnings& warnings) {
+    const auto isUntold = [](const LibraryParameter& parameter) {
+        return parameter.type == Host::ParameterType::Dictionary && parameter.text.empty();
+    };
+    for (const LibraryParameter& parameter : parameters) {
+        if (isUntold(parameter)) {
+            warnings.push_back("parametro " + parameter.name +
+                               " e um dicionario que nao pode ser lido e nao foi copiado");
+        }
+    }
+    std::erase_if(parameters, isUntold);
+}
+
 ErrorCode BuildParameters(const AddBlockRequest& request, LuminaireContent& content,
                           Warnings& warnings) {
     std::vector<LibraryParameter> existing;
@@ -71,6 +86,10 @@ ErrorCode BuildParameters(const AddBlockRequest& request, LuminaireContent& cont
             Host::GetPartParameters(request.sourceIndex, content.sizeA, content.sizeB, existing)) {
         return code;
     }
+    if (const ErrorCode code = Host::GetPartDetails(request.sourceIndex, content.details)) {
+        return code;
+    }
+    DropUntoldDictionaries(existing, warnings);
     Photometry::LuminaireSettings settings = request.settings;
     settings.symbolFill = FindSolidFill();
     const auto contract = Photometry::BuildContract(request.file, settings);
@@ -137,8 +156,8 @@ ErrorCode WriteContent(const LuminaireContent& content, const Host::NewLibraryPa
         }
     }
     ErrorCode listCode = Host::NoError;
-    const ErrorCode code =
-        WriteParameterSection(part, content.sizeA, content.sizeB, content.parameters, listCode);
+    const ErrorCode code = WriteParameterSection(part, content.sizeA, content.sizeB,
+                                                 content.parameters, listCode, content.details);
     if (listCode != Host::NoError) {
         warnings.push_back("a lista de parametros nao pode ser montada (" +
                            Commands::ErrorName(listCode) + ")");

@@ -22,6 +22,16 @@ constexpr std::string_view DrawStoredPlan = "FRAGMENT2 ALL, 0\r\n";
 constexpr std::array<std::string_view, 4> ScriptSections = {
     MasterScriptSection, ModelScriptSection, PlanScriptSection, ParameterScriptSection};
 
+/// What a copy does not take over: the comment tells of another part, the parameters are written
+/// anew, and head, ancestry and type the host writes itself for every part.
+constexpr std::array<std::string_view, 5> SectionsOfThePartItself = {
+    CommentSection, ParameterListSection, "HEAD", "ANCS", "TYPE"};
+
+bool IsCopied(const Host::PartSection& section) {
+    return std::find(SectionsOfThePartItself.begin(), SectionsOfThePartItself.end(),
+                     section.type) == SectionsOfThePartItself.end();
+}
+
 /// The part's own section of a type, not one of several further ones; null when there is none.
 CopiedSection* FindSection(std::vector<CopiedSection>& sections, std::string_view type) {
     const auto found =
@@ -54,7 +64,7 @@ ErrorCode CopySections(std::int32_t index, std::vector<CopiedSection>& sections,
         return code;
     }
     for (const Host::PartSection& section : listed) {
-        if (section.type == CommentSection || section.type == ParameterListSection) {
+        if (!IsCopied(section)) {
             continue;
         }
         std::string bytes;

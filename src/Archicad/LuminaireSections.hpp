@@ -19,9 +19,9 @@ struct CopiedSection {
     bool operator==(const CopiedSection&) const = default;
 };
 
-/// Reads a part's sections in their order, but its comment, which tells of another part, and its
-/// parameters, which are written anew. One that can't be read is left out with a warning. The
-/// host's code when the part's sections can't be listed.
+/// Reads a part's sections in their order, but its comment, which tells of another part, its
+/// parameters, which are written anew, and those that only the host writes. One that can't be read
+/// is left out with a warning. The host's code when the part's sections can't be listed.
 Host::ErrorCode CopySections(std::int32_t index, std::vector<CopiedSection>& sections,
                              std::vector<std::string>& warnings);
 

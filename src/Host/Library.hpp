@@ -56,6 +56,10 @@ ErrorCode FindLibraryPart(std::string_view name, LibraryPart& part);
 ErrorCode GetPartParameters(std::int32_t index, double& sizeA, double& sizeB,
                             std::vector<LibraryParameter>& parameters);
 
+/// How a part treats its parameters (its size fixed or stretchable, hotspots, pages of its
+/// settings) in the host's own form, to be handed on to a part made from it. BadIndex.
+ErrorCode GetPartDetails(std::int32_t index, std::string& details);
+
 /// The host's own numbers for the kinds of libraries.
 enum class LibraryKind : std::int32_t {
     Undefined = 0,
@@ -132,10 +136,14 @@ ErrorCode EndSection();
 
 /// The host's own form of a list of parameters for a part of this type, for section "PARD": A, B
 /// and the subtype's own come by themselves. BadParameters for a name that is no parameter's
-/// (empty, over 31 characters, not ASCII, there twice) and for an array that does not hold its
-/// numbers.
+/// (empty, over 31 characters, not ASCII, there twice), for an array that does not hold its numbers
+/// and for a dictionary without its content. The part is one of fixed size.
 ErrorCode MakeParameterSection(const NewLibraryPart& part, double sizeA, double sizeB,
                                const std::vector<LibraryParameter>& parameters, std::string& bytes);
+
+/// Sets in such a list what `GetPartDetails` told of another part. BadParameters, with `bytes` as
+/// they were, for what is none of the two.
+ErrorCode SetPartDetails(std::string_view details, std::string& bytes);
 
 /// Ends the part that is being made, writes its file in one step and reads it into the project;
 /// `part` tells what became of it, with its new index, a new main identity and a new revision.

@@ -45,10 +45,12 @@ struct LibraryParameter {
     ParameterType type = ParameterType::Real;
     std::int32_t flags = 0;
     bool isArray = false;
-    std::int32_t dim1 = 0;          ///< arrays: rows
-    std::int32_t dim2 = 0;          ///< arrays: columns; 0 or 1 for one dimension
-    double number = 0.0;            ///< numeric types
-    std::string text;               ///< strings, at most 255 units of UTF-16
+    std::int32_t dim1 = 0; ///< arrays: rows
+    std::int32_t dim2 = 0; ///< arrays: columns; 0 or 1 for one dimension
+    double number = 0.0;   ///< numeric types
+    /// Strings, at most 255 units of UTF-16. Of a dictionary the host's own form of its content, to
+    /// be handed on as it is; empty where the host can't tell it.
+    std::string text;
     std::vector<double> numbers;    ///< arrays of numbers, row after row
     std::vector<std::string> texts; ///< arrays of strings
 

@@ -114,6 +114,21 @@ ErrorCode GetPartParameters(std::int32_t index, double& sizeA, double& sizeB,
     return NoError;
 }
 
+ErrorCode GetPartDetails(std::int32_t index, std::string& details) {
+    if (const ErrorCode code = Workbench::CountProjectCall("GetPartDetails")) {
+        return code;
+    }
+    const ProjectPart* const found = FindPart(index);
+    if (!found) {
+        return BadIndex;
+    }
+    if (found->source == PartSource::Missing) {
+        return MissingDefinition;
+    }
+    details = found->document ? found->document->parameters.header : std::string();
+    return NoError;
+}
+
 ErrorCode GetBuiltInPart(std::int32_t number, Guid& guid) {
     if (const ErrorCode code = Workbench::CountCall("GetBuiltInPart")) {
         return code;

@@ -36,8 +36,9 @@ bool IsGoodArray(const LibraryParameter& parameter) {
 
 bool IsGoodParameter(const LibraryParameter& parameter) {
     const auto isFinite = [](double number) { return std::isfinite(number); };
-    return IsParameterName(parameter.name) && (!parameter.isArray || IsGoodArray(parameter)) &&
-           isFinite(parameter.number) &&
+    const bool isBare = parameter.type == ParameterType::Dictionary && parameter.text.empty();
+    return IsParameterName(parameter.name) && !isBare &&
+           (!parameter.isArray || IsGoodArray(parameter)) && isFinite(parameter.number) &&
            std::all_of(parameter.numbers.begin(), parameter.numbers.end(), isFinite);
 }
 
@@ -107,6 +108,24 @@ bool HasGoodNames(const std::vector<LibraryParameter>& parameters) {
                        });
 }
 
+/// Whether a list that holds dictionaries, which are not ours to write, reads as what it was to be.
+bool ReadsBack(const std::string& xml, const ParameterSection& section) {
+    ParameterSection read;
+    std::string ignored;
+    const auto isSame = [](const PartParameter& a, const PartParameter& b) {
+        return a.value.name == b.value.name && a.value.type == b.value.type;
+    };
+    const bool hasDictionaries =
+        std::any_of(section.parameters.begin(), section.parameters.end(),
+                    [](const PartParameter& parameter) { return !parameter.kept.empty(); });
+    if (!hasDictionaries) {
+        return true;
+    }
+    return ReadParameterXml(xml, read, ignored) &&
+           std::equal(read.parameters.begin(), read.parameters.end(), section.parameters.begin(),
+                      section.parameters.end(), isSame);
+}
+
 } // namespace
 
 ErrorCode MakeParameterSection(const NewLibraryPart& part, double sizeA, double sizeB,
@@ -120,8 +139,32 @@ ErrorCode MakeParameterSection(const NewLibraryPart& part, double sizeA, double 
         !HasGoodNames(parameters)) {
         return BadParameters;
     }
-    bytes = WriteParameterXml(
-        Workbench::MakeFileParameters(sizeA, sizeB, WithSubtypes(part, parameters)));
+    const ParameterSection section =
+        Workbench::MakeFileParameters(sizeA, sizeB, WithSubtypes(part, parameters));
+    std::string xml = WriteParameterXml(section);
+    if (!ReadsBack(xml, section)) {
+        return BadParameters;
+    }
+    bytes = std::move(xml);
+    return NoError;
+}
+
+ErrorCode SetPartDetails(std::string_view details, std::string& bytes) {
+    if (const ErrorCode code = Workbench::CountProjectCall("SetPartDetails")) {
+        return code;
+    }
+    ParameterSection section;
+    ParameterSection read;
+    std::string ignored;
+    if (!ReadParameterXml(bytes, section, ignored)) {
+        return BadParameters;
+    }
+    section.header = details;
+    std::string xml = WriteParameterXml(section);
+    if (!ReadParameterXml(xml, read, ignored) || read != section) {
+        return BadParameters;
+    }
+    bytes = std::move(xml);
     return NoError;
 }
 

@@ -274,7 +274,9 @@ Parts::ParameterSection MakeFileParameters(double sizeA, double sizeB,
     section.sizeB.number = sizeB;
     section.parameters.reserve(parameters.size());
     for (const Host::LibraryParameter& parameter : parameters) {
-        section.parameters.push_back({ParameterForFile(parameter), {}});
+        const bool isKept = parameter.type == Host::ParameterType::Dictionary;
+        section.parameters.push_back(
+            {ParameterForFile(parameter), isKept ? parameter.text : std::string()});
     }
     return section;
 }
@@ -290,6 +292,7 @@ ProjectPart MakeLibraryPart(std::string name, std::wstring path, Parts::PartDocu
     part.path = std::move(path);
     for (const Parts::PartParameter& parameter : document.parameters.parameters) {
         Host::LibraryParameter& taken = part.parameters.emplace_back(parameter.value);
+        taken.text = parameter.kept.empty() ? taken.text : parameter.kept;
         taken.number = NumberFromFile(taken.type, taken.number);
         for (double& number : taken.numbers) {
             number = NumberFromFile(taken.type, number);

@@ -368,6 +368,7 @@ TEST_F(AddLuminaireBlockToPart, LeavesNoFileOnTheFailureOfAnyHostCall) {
     const char* const order[] = {"1DSC", "2DSC", "3DSC", "VLSC", "KWRD", "GDLP", "PARD"};
     std::vector<Fault> faults = {{"ListSections", 1, {}},
                                  {"GetPartParameters", 1, {}},
+                                 {"GetPartDetails", 1, {}},
                                  {"GetLibraryPart", 1, {}},
                                  {"GetSpecialFolder", 1, {}},
                                  {"GetLibraries", 1, {}},

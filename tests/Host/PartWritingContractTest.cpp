@@ -204,6 +204,7 @@ TEST_F(PartWritingContract, RefusesParametersThatNoPartCanHave) {
              {MakeNumber("ção", ParameterType::Real, 0.0)},
              {MakeNumber("x", ParameterType::Real, 0.0), MakeNumber("X", ParameterType::Real, 0.0)},
              {MakeNumber("A", ParameterType::Length, 0.0)},
+             {MakeNumber("mvData", ParameterType::Dictionary, 0.0)},
              {ragged}}) {
         EXPECT_EQ(MakeParameterSection(part, 1.0, 1.0, bad, bytes), BadParameters);
     }
@@ -212,6 +213,22 @@ TEST_F(PartWritingContract, RefusesParametersThatNoPartCanHave) {
                                    {MakeNumber(std::string(31, 'a'), ParameterType::Real, 0.0)},
                                    bytes),
               NoError);
+}
+
+TEST_F(PartWritingContract, HandsOnHowAPartTreatsItsParameters) {
+    const LibraryPart saved = MakeSaved(part, {MakeNumber("mvOn", ParameterType::Boolean, 1.0)});
+    std::string details = "como era";
+    EXPECT_EQ(GetPartDetails(0, details), BadIndex);
+    EXPECT_EQ(details, "como era");
+    ASSERT_EQ(GetPartDetails(saved.index, details), NoError);
+    std::string bytes;
+    ASSERT_EQ(MakeParameterSection(part, 1.0, 1.0, {}, bytes), NoError);
+    const std::string fixedSize = bytes;
+    EXPECT_EQ(SetPartDetails(details, bytes), NoError);
+    EXPECT_EQ(bytes, fixedSize); // as a part made from scratch is
+    std::string noList = "nenhuma lista";
+    EXPECT_EQ(SetPartDetails(details, noList), BadParameters);
+    EXPECT_EQ(noList, "nenhuma lista");
 }
 
 TEST_F(PartWritingContract, RefusesPartsThatCanNotBeMade) {
@@ -395,6 +412,8 @@ TEST_F(PartWritingContract, AnswersWithNoPlanWithoutAProject) {
     EXPECT_EQ(WriteSection(""), NoPlan);
     EXPECT_EQ(EndSection(), NoPlan);
     EXPECT_EQ(MakeParameterSection(part, 1.0, 1.0, {}, bytes), NoPlan);
+    EXPECT_EQ(GetPartDetails(1, bytes), NoPlan);
+    EXPECT_EQ(SetPartDetails("", bytes), NoPlan);
     EXPECT_EQ(SavePart(saved), NoPlan);
 }
 

@@ -218,6 +218,7 @@ Calls StoreCalls() {
         {"GetLibraryPart", [] { return Host::GetLibraryPart(1, part); }},
         {"FindLibraryPart", [] { return Host::FindLibraryPart("Prova", part); }},
         {"GetPartParameters", [] { return Host::GetPartParameters(1, size, size, parameters); }},
+        {"GetPartDetails", [] { return Host::GetPartDetails(1, block); }},
         {"SetPreferences", [] { return Host::SetPreferences(1, "bloco"); }},
         {"GetPreferences", [] { return Host::GetPreferences(version, block); }},
         {"StoreProjectData", [] { return Host::StoreProjectData("prova", {}); }},
@@ -290,6 +291,7 @@ Calls LibraryCalls() {
         {"EndSection", [] { return Host::EndSection(); }},
         {"MakeParameterSection",
          [] { return Host::MakeParameterSection(Wanted, 1.0, 1.0, {}, bytes); }},
+        {"SetPartDetails", [] { return Host::SetPartDetails({}, bytes); }},
         {"SavePart", [] { return Host::SavePart(part); }},
         {"GetBuiltInPart", [] { return Host::GetBuiltInPart(118, guid); }},
     };

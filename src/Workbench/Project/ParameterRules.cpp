@@ -60,7 +60,7 @@ bool IsGoodValue(const LibraryParameter& parameter) {
     const auto isFinite = [](double number) { return std::isfinite(number); };
     return (!parameter.isArray || IsGoodArray(parameter)) && isFinite(parameter.number) &&
            std::all_of(parameter.numbers.begin(), parameter.numbers.end(), isFinite) &&
-           IsShortText(parameter.text) &&
+           (parameter.type == ParameterType::Dictionary || IsShortText(parameter.text)) &&
            std::all_of(parameter.texts.begin(), parameter.texts.end(), IsShortText);
 }
 
