@@ -37,14 +37,28 @@ std::filesystem::path Plain(const std::wstring& path) {
     return plain.has_filename() ? plain : plain.parent_path();
 }
 
+/// The C library's own lowering leaves accented letters alone in the locale that programs begin in.
+wchar_t Lowered(wchar_t letter) {
+    constexpr wchar_t toSmall = L'a' - L'A';
+    constexpr wchar_t timesSign = 0xD7;
+    const bool isCapital = (letter >= L'A' && letter <= L'Z') ||
+                           (letter >= 0xC0 && letter <= 0xDE && letter != timesSign);
+    return isCapital ? static_cast<wchar_t>(letter + toSmall) : letter;
+}
+
+std::wstring LoweredPath(std::wstring path) {
+    std::transform(path.begin(), path.end(), path.begin(), Lowered);
+    return path;
+}
+
 } // namespace
 
 std::wstring PathIn(const std::wstring& folder, std::wstring_view name) {
     return Text::WidePath(Text::NativePath(folder) / Text::NativePath(std::wstring(name)));
 }
 
-bool IsSameFolder(const std::wstring& a, const std::wstring& b) {
-    return Plain(a) == Plain(b);
+bool IsSameFolder(const std::wstring& a, const std::wstring& b, bool ignoreCase) {
+    return ignoreCase ? Plain(LoweredPath(a)) == Plain(LoweredPath(b)) : Plain(a) == Plain(b);
 }
 
 ErrorCode DefaultLibraryFolder(std::wstring& folder) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "Host/Types.hpp"
+#include "Text/NativePath.hpp"
 
 /// The folder of the user's own where the add-on keeps the parts that it makes.
 namespace Merivane::Archicad {
@@ -23,7 +24,9 @@ Host::ErrorCode DefaultLibraryFolder(std::wstring& folder);
 /// can't be read or added to. No undo step may run.
 Host::ErrorCode EnsureLibraryFolderInProject(std::wstring& folder);
 
-/// True for two spellings of one path: with or without a separator at the end, "." or "..".
-bool IsSameFolder(const std::wstring& a, const std::wstring& b);
+/// True for two spellings of one path: with or without a separator at the end, "." or "..", and
+/// with `ignoreCase`, as the system has it, in capitals or not (ASCII and Latin-1 letters).
+bool IsSameFolder(const std::wstring& a, const std::wstring& b,
+                  bool ignoreCase = Text::PathsAreWide);
 
 } // namespace Merivane::Archicad

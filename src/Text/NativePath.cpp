@@ -1,16 +1,8 @@
 #include "Text/NativePath.hpp"
 
-#include <type_traits>
-
 #include "Text/Utf8.hpp"
 
 namespace Merivane::Text {
-
-namespace {
-
-constexpr bool PathsAreWide = std::is_same_v<std::filesystem::path::value_type, wchar_t>;
-
-} // namespace
 
 std::filesystem::path NativePath(const std::wstring& path) {
     if constexpr (PathsAreWide) {

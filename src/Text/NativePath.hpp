@@ -2,8 +2,12 @@
 
 #include <filesystem>
 #include <string>
+#include <type_traits>
 
 namespace Merivane::Text {
+
+/// True where paths are wide: on the system that takes names which differ in case alone for one.
+inline constexpr bool PathsAreWide = std::is_same_v<std::filesystem::path::value_type, wchar_t>;
 
 /// A wide path as the standard library takes it: the same characters where paths are wide, their
 /// UTF-8 bytes elsewhere. The library's own conversion refuses names that are not UTF-8; this one

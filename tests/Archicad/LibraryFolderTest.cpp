@@ -6,6 +6,7 @@
 
 #include "LibrarySession.hpp"
 #include "Text/NativePath.hpp"
+#include "Text/Utf8.hpp"
 #include "Workbench/Session.hpp"
 
 namespace Merivane::Archicad {
@@ -83,6 +84,28 @@ TEST(IsSameFolder, SeesThroughSpellings) {
     EXPECT_FALSE(IsSameFolder(L"/a/b", L"/a/bc"));
     EXPECT_FALSE(IsSameFolder(L"/a/b", L"/a"));
     EXPECT_FALSE(IsSameFolder(L"", L"/a"));
+}
+
+TEST(IsSameFolder, IgnoresCaseWhereTheSystemDoes) {
+    struct Case {
+        const wchar_t* a;
+        const wchar_t* b;
+        bool same; // where case is ignored
+    };
+    const Case cases[] = {
+        {L"/Documentos/Vantoro Library", L"/documentos/VANTORO LIBRARY/", true},
+        {L"/Jo\u00C3o/\u00CDcaro", L"/JO\u00E3O/\u00EDCARO", true},
+        {L"/a/\u00D7", L"/a/\u00F7", false}, // the signs of multiplication and division
+        {L"/Joao", L"/Jo\u00E3o", false},
+        {L"/a@", L"/a`", false},
+        {L"/a[", L"/a{", false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(Text::Narrow(c.a));
+        EXPECT_EQ(IsSameFolder(c.a, c.b, true), c.same);
+        EXPECT_FALSE(IsSameFolder(c.a, c.b, false));
+    }
+    EXPECT_EQ(IsSameFolder(L"/a", L"/A"), Text::PathsAreWide);
 }
 
 } // namespace
