@@ -152,6 +152,42 @@ TEST_F(ReplaceElementLibPart, CarriesAllWhereAllIsToBeKept) {
     EXPECT_EQ(NumberIn(parameters, "mvContractVersion"), 6.0);
 }
 
+TEST_F(ReplaceElementLibPart, CarriesArraysWithTheSizeThatTheyHaveOnTheElement) {
+    const auto table = [](std::vector<double> numbers, std::int32_t columns) {
+        Host::LibraryParameter parameter;
+        parameter.name = "ownTable";
+        parameter.isArray = true;
+        parameter.dim1 = static_cast<std::int32_t>(numbers.size()) / columns;
+        parameter.dim2 = columns;
+        parameter.numbers = std::move(numbers);
+        return parameter;
+    };
+    const auto list = [](std::vector<std::string> texts) {
+        Host::LibraryParameter parameter;
+        parameter.name = "ownList";
+        parameter.type = Host::ParameterType::String;
+        parameter.isArray = true;
+        parameter.dim1 = static_cast<std::int32_t>(texts.size());
+        parameter.texts = std::move(texts);
+        return parameter;
+    };
+    for (const auto type : {Host::ElementType::Lamp, Host::ElementType::Object}) {
+        Open(type);
+        auto& project = Workbench::CurrentSession().project;
+        for (auto& part : project.parts) {
+            part.parameters.push_back(table({9.0, 9.0}, 2));
+            part.parameters.push_back(list({"da peca"}));
+        }
+        auto& placed = project.elements[0].memo.parameters;
+        placed.push_back(table({1.0, 2.0, 3.0, 4.0, 5.0, 6.0}, 3));
+        placed.push_back(list({"a", "bb", ""}));
+        EXPECT_EQ(Replace(false), Host::NoError);
+        auto parameters = ParametersNow();
+        EXPECT_EQ(*FindAddPar(parameters, "ownTable"), table({1.0, 2.0, 3.0, 4.0, 5.0, 6.0}, 3));
+        EXPECT_EQ(*FindAddPar(parameters, "ownList"), list({"a", "bb", ""}));
+    }
+}
+
 TEST_F(ReplaceElementLibPart, LeavesAValueOfAnotherKind) {
     Open(Host::ElementType::Lamp);
     auto& part = Workbench::CurrentSession().project.parts[1];
@@ -168,6 +204,7 @@ TEST_F(ReplaceElementLibPart, LeavesTheElementOnEveryFailure) {
     };
     const Case cases[] = {
         {Host::ElementType::Lamp, "GetMemo"},
+        {Host::ElementType::Lamp, "GetPartParameters"},
         {Host::ElementType::Lamp, "ChangeElement"},
         {Host::ElementType::Object, "GetMemo"},
         {Host::ElementType::Object, "CreateElement"},

@@ -67,6 +67,41 @@ TEST_F(CreateLibraryPart, WritesEverySection) {
     EXPECT_EQ(document.copyright.author, "Vantoro Add-On");
 }
 
+/// The sections of the part that stays where the host does not begin the section of that place and
+/// does not read its libraries anew.
+Strings SectionsBefore(int failing) {
+    Workbench::FailCall("NewSection", failing, Host::NotMine);
+    Workbench::FailCall("SetLibraries", 1, Host::NotMine);
+    std::int32_t index = 0;
+    EXPECT_EQ(Archicad::CreateLibraryPart(Request(), index), Host::NotMine);
+    std::vector<Host::PartSection> sections;
+    const std::size_t last = Workbench::CurrentSession().project.parts.size() - 1;
+    EXPECT_EQ(Host::ListSections(Workbench::LibraryIndexOf(last), sections), Host::NoError);
+    Strings names;
+    names.reserve(sections.size());
+    for (const Host::PartSection& section : sections) {
+        names.push_back(section.type + " " + std::to_string(section.subIdent));
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+TEST_F(CreateLibraryPart, HandsTheSectionsToTheHostInTheirOrder) {
+    const Strings order = {"CTXT 0", "KWRD 0", "CPYR 0", "1DSC 0", "3DSC 0",
+                           "2DSC 0", "VLSC 0", "GDLP 1", "GDLP 2", "PARD 0"};
+    for (std::size_t next = 0; next < order.size(); ++next) {
+        std::filesystem::remove_all(OwnFolder());
+        Open();
+        Strings expected(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(next));
+        std::sort(expected.begin(), expected.end());
+        EXPECT_EQ(SectionsBefore(static_cast<int>(next) + 1), expected);
+    }
+    std::filesystem::remove_all(OwnFolder());
+    Open();
+    Create(Request());
+    EXPECT_EQ(Workbench::CurrentSession().calls["NewSection"], 10);
+}
+
 TEST_F(CreateLibraryPart, MakesAPlaceableLampOfTheHostsSubtype) {
     const Host::LibraryPart part = PartOf(Create(Request()));
     EXPECT_EQ(part.name, "Peca");
