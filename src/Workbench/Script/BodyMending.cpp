@@ -408,6 +408,10 @@ bool JoinVertices(FacedBody& body, SolidBudget& budget) {
 
 bool MendPieces(BodyPieces& pieces, SolidBudget& budget) {
     FacedBody& body = pieces.body;
+    constexpr std::size_t rounds = 16; // over all vertices, from here to the end
+    if (!Spend(budget, rounds * body.vertices.size())) {
+        return false;
+    }
     const double joining = JoiningDistance(body);
     const std::vector<std::int32_t> first = FirstInPlace(body, joining);
     for (std::size_t i = 0; i < first.size(); ++i) {

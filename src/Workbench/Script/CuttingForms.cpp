@@ -195,20 +195,26 @@ bool BuildForm(const CuttingForm& form, const SpaceBox& box, SolidBudget& budget
     if (to <= low || from >= high) {
         return true;
     }
-    ShapeSketch sketch;
-    sketch.faceRoom = std::numeric_limits<std::size_t>::max();
-    sketch.vertexRoom = sketch.faceRoom;
     PrismEnds ends;
+    SpaceBox reach;
     for (std::size_t i = 0; i < form.base.size(); ++i) {
         const Coordinate3D way = Difference(form.tops[i], form.base[i]);
         ends.bottom.push_back(Sum(form.base[i], Scaled(way, from)));
         ends.top.push_back(to == 1.0 ? form.tops[i] : Sum(form.base[i], Scaled(way, to)));
+        Enclose(reach, ends.bottom.back());
+        Enclose(reach, ends.top.back());
     }
+    if (!BoxesMeet(reach, box, SamePlace)) {
+        return true;
+    }
+    ShapeSketch sketch;
+    sketch.faceRoom = std::numeric_limits<std::size_t>::max();
+    sketch.vertexRoom = sketch.faceRoom;
     AddPrism(sketch, form.loft, ends, {form.surface, form.surface, form.surface});
     OrientOutwards(sketch);
     body = std::move(sketch.body);
     // Tops may be one place or lie on one edge.
-    if (!JoinVertices(body, budget)) {
+    if (to == 1.0 && !JoinVertices(body, budget)) {
         return false;
     }
     FlattenFaces(body);
@@ -233,7 +239,7 @@ bool CutByForm(ModelBuild& build, const CuttingForm& form, ShapeSketch& sketch) 
     if (!BuildForm(form, box, build.solidBudget, solid)) {
         return false;
     }
-    if (solid.faces.empty() || !BoxesMeet(BodyBox(solid), box, SamePlace)) {
+    if (solid.faces.empty()) {
         if (form.keepsInside) {
             sketch.body = {};
             sketch.wires.clear();

@@ -48,7 +48,7 @@ struct ScriptLimits {
     std::size_t textBytes = 1 << 20; ///< of one text
     std::size_t shapes = 500'000;    ///< drawn in plan; faces, wires and hotspots of a body
     std::size_t vertices = 2'000'000;
-    std::size_t solidWork = 200'000'000; ///< of operations with solids; see `SolidBudget`
+    std::size_t solidWork = 80'000'000; ///< of operations with solids; see `SolidBudget`
 };
 
 /// Attributes that scripts name by number or by name.
