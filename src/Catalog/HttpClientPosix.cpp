@@ -76,7 +76,7 @@ bool IsWebScheme(const std::string& scheme) {
 /// else does. True for what does not begin with a scheme of the web.
 bool BeginsWell(const std::string& url) {
     const std::size_t colon = url.find(':');
-    const std::string_view rest = std::string_view(url).substr(std::min(colon, url.size()));
+    const std::string_view rest = std::string_view{url}.substr(std::min(colon, url.size()));
     return !IsWebScheme(Text::ToLower(url.substr(0, colon))) ||
            (rest.starts_with("://") && !rest.starts_with(":///"));
 }

@@ -31,7 +31,7 @@ bool IsDeviceName(std::string_view name) {
     return std::any_of(NumberedDevices.begin(), NumberedDevices.end(),
                        [&stem](std::string_view device) {
                            return stem.starts_with(device) &&
-                                  IsPortNumber(std::string_view(stem).substr(device.size()));
+                                  IsPortNumber(std::string_view{stem}.substr(device.size()));
                        });
 }
 
