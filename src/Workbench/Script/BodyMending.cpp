@@ -95,9 +95,7 @@ void DropSpikes(Contour& contour) {
         kept.push_back(vertex);
     }
     while (kept.size() > 1) {
-        if (kept.front() == kept.back()) {
-            kept.pop_back();
-        } else if (kept.size() > 2 && kept[kept.size() - 2] == kept.front()) {
+        if (kept.front() == kept.back() || kept[kept.size() - 2] == kept.front()) {
             kept.pop_back();
         } else if (kept.size() > 2 && kept[1] == kept.back()) {
             kept.erase(kept.begin());
