@@ -1,5 +1,6 @@
 #include "Text/FileBytes.hpp"
 
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <random>
@@ -28,16 +29,37 @@ bool WriteAndClose(FileHandle file, std::string_view bytes, bool sync) {
     return std::fclose(file.release()) == 0 && written;
 }
 
+constexpr std::wstring_view PartWritten = L".parcial-";
+constexpr std::size_t DigitsOfName = 16;
+
 /// A name beside a file that nobody guesses.
 std::wstring FreshNameBeside(const std::wstring& path) {
-    constexpr int DigitsOfName = 16;
     std::random_device random;
     std::uniform_int_distribution<std::size_t> digit(0, 15);
-    std::wstring name = path + L".parcial-";
-    for (int i = 0; i < DigitsOfName; ++i) {
+    std::wstring name = path + std::wstring(PartWritten);
+    for (std::size_t i = 0; i < DigitsOfName; ++i) {
         name += L"0123456789abcdef"[digit(random)];
     }
     return name;
+}
+
+/// Takes away what writers that were killed have left beside a file. One that still writes is
+/// younger.
+void RemoveLeftovers(const std::wstring& path) {
+    namespace fs = std::filesystem;
+    constexpr std::chrono::minutes longest(10);
+    const std::wstring begin = path + std::wstring(PartWritten);
+    const auto now = fs::file_time_type::clock::now();
+    std::error_code code; // what can't be looked at stays
+    for (fs::directory_iterator at(NativePath(path).parent_path(), code), end; !code && at != end;
+         at.increment(code)) {
+        const std::wstring name = WidePath(at->path());
+        std::error_code unknown;
+        if (name.size() == begin.size() + DigitsOfName && name.starts_with(begin) &&
+            now - at->last_write_time(unknown) > longest && !unknown) {
+            RemoveFile(name);
+        }
+    }
 }
 
 } // namespace
@@ -88,6 +110,7 @@ bool ReplaceFile(const std::wstring& path, std::string_view bytes) {
         return false; // nothing of ours stands there
     }
     if (WriteAndClose(std::move(file), bytes, true) && RenameOver(beside, target)) {
+        RemoveLeftovers(target);
         return true;
     }
     RemoveFile(beside);

@@ -29,7 +29,7 @@ bool WriteFileFlushed(const std::wstring& path, std::string_view bytes);
 /// Writes a file whole or not at all: beside its place under a name that nobody else has (its own,
 /// ".parcial-" and 16 digits), flushed to the disk, then renamed; through a link the file that it
 /// leads to. Returns false when any of it fails; the file at `path` is then as it was and nothing
-/// is left beside it.
+/// is left beside it. What writers that were killed left there more than ten minutes ago goes.
 bool ReplaceFile(const std::wstring& path, std::string_view bytes);
 
 } // namespace Merivane::Text

@@ -86,8 +86,8 @@ TEST_F(AddIesProgram, FailsWhereTheCommandTellsThatItDidNothing) {
     WriteBytes(folder.Path() / "spot.ies", "IESNA:LM-63-2002\nTILT=NONE\n1 1000\n");
     const ProgramEnd end = Run("[" + ChooseSpot + "]");
     EXPECT_EQ(end.status, 1);
-    EXPECT_EQ(end.error, "Vantoro: O arquivo IES foi recusado: arquivo termina antes de numero de "
-                         "angulos verticais\n");
+    EXPECT_EQ(end.output, "Vantoro: O arquivo IES foi recusado: arquivo termina antes de "
+                          "multiplicador de candela\n");
     EXPECT_EQ(ReadBytes(folder.Path() / "p.vantoro"), before);
 }
 

@@ -1,3 +1,4 @@
+#include <chrono>
 #include <filesystem>
 #include <iterator>
 #include <string>
@@ -147,6 +148,23 @@ TEST(ReplaceFile, KeepsTheOldFileWhenTheNewOneCannotBeWritten) {
     EXPECT_FALSE(ReplaceFile(Wide(path), "new"));
     EXPECT_EQ(ReadBytes(path), "old");
     EXPECT_EQ(FileCount(folder.Path()), 1);
+}
+
+TEST(ReplaceFile, TakesAwayWhatKilledWritersLeftLongAgo) {
+    namespace fs = std::filesystem;
+    const TemporaryFolder folder;
+    const std::string left = "a.txt.parcial-0123456789abcdef";
+    const std::string writing = "a.txt.parcial-fedcba9876543210";
+    for (const std::string& name : {left, writing, left + "0", "b.txt" + left.substr(5)}) {
+        WriteBytes(folder.Path() / name, "part");
+        const auto age = std::chrono::minutes(name == writing ? 9 : 11);
+        fs::last_write_time(folder.Path() / name, fs::file_time_type::clock::now() - age);
+    }
+    ASSERT_TRUE(ReplaceFile(Wide(folder.Path() / "a.txt"), "new"));
+    EXPECT_FALSE(fs::exists(folder.Path() / left));
+    EXPECT_TRUE(fs::exists(folder.Path() / writing));
+    EXPECT_TRUE(fs::exists(folder.Path() / (left + "0")));
+    EXPECT_TRUE(fs::exists(folder.Path() / ("b.txt" + left.substr(5))));
 }
 
 TEST(ReplaceFile, TouchesNothingThatStandsBeside) {

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <string>
@@ -146,6 +147,14 @@ bool SaveAndKill(const std::wstring& path, const Project& project, int nth) {
     return true;
 }
 
+/// Makes all files of a folder a quarter of an hour old.
+void AgeFiles(const std::filesystem::path& folder) {
+    for (const auto& file : std::filesystem::directory_iterator(folder)) {
+        const auto age = std::filesystem::file_time_type::clock::now() - std::chrono::minutes(15);
+        std::filesystem::last_write_time(file.path(), age);
+    }
+}
+
 } // namespace
 
 TEST(SaveProject, KilledAtAnyCallOfTheSystemLeavesTheOldFileOrTheNew) {
@@ -165,11 +174,12 @@ TEST(SaveProject, KilledAtAnyCallOfTheSystemLeavesTheOldFileOrTheNew) {
         const std::string bytes = ReadBytes(path);
         ASSERT_TRUE(bytes == oldBytes || bytes == newBytes) << "call " << nth;
         (bytes == oldBytes ? kept : replaced) += 1;
-        EXPECT_LE(FilesIn(folder.Path()).size(), 2U) << "call " << nth;
     }
     // Some calls write, one renames, and the last round ends by itself.
     EXPECT_GT(kept, 5);
     EXPECT_GE(replaced, 2);
+    EXPECT_GT(FilesIn(folder.Path()).size(), 2U);
+    AgeFiles(folder.Path());
     EXPECT_EQ(SaveError(path, older), "");
     EXPECT_EQ(FilesIn(folder.Path()), (std::vector<std::string>{"a.vantoro"}));
 }
@@ -187,7 +197,6 @@ TEST(SaveProject, KilledAsItMakesAFileLeavesNoneOrAWholeOne) {
         if (std::filesystem::exists(path)) {
             ASSERT_EQ(ReadBytes(path), bytes) << "call " << nth;
         }
-        EXPECT_LE(FilesIn(folder.Path()).size(), 2U) << "call " << nth;
     }
 }
 
