@@ -46,6 +46,15 @@ LibraryPart DescribePart(std::int32_t index, const ProjectPart& found) {
     return part;
 }
 
+/// The part of an index, where its file is there.
+ErrorCode FindDefinedPart(std::int32_t index, const ProjectPart*& part) {
+    part = FindPart(index);
+    if (!part) {
+        return BadIndex;
+    }
+    return part->source == PartSource::Missing ? MissingDefinition : NoError;
+}
+
 } // namespace
 
 ErrorCode ListLibraryParts(std::vector<std::int32_t>& indices) {
@@ -101,12 +110,9 @@ ErrorCode GetPartParameters(std::int32_t index, double& sizeA, double& sizeB,
     if (const ErrorCode code = Workbench::CountProjectCall("GetPartParameters")) {
         return code;
     }
-    const ProjectPart* const found = FindPart(index);
-    if (!found) {
-        return BadIndex;
-    }
-    if (found->source == PartSource::Missing) {
-        return MissingDefinition;
+    const ProjectPart* found = nullptr;
+    if (const ErrorCode code = FindDefinedPart(index, found)) {
+        return code;
     }
     sizeA = found->sizeA;
     sizeB = found->sizeB;
@@ -118,12 +124,9 @@ ErrorCode GetPartDetails(std::int32_t index, std::string& details) {
     if (const ErrorCode code = Workbench::CountProjectCall("GetPartDetails")) {
         return code;
     }
-    const ProjectPart* const found = FindPart(index);
-    if (!found) {
-        return BadIndex;
-    }
-    if (found->source == PartSource::Missing) {
-        return MissingDefinition;
+    const ProjectPart* found = nullptr;
+    if (const ErrorCode code = FindDefinedPart(index, found)) {
+        return code;
     }
     details = found->document ? found->document->parameters.header : std::string();
     return NoError;
