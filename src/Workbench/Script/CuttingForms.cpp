@@ -268,13 +268,9 @@ bool CutByForm(ModelBuild& build, const CuttingForm& form, ShapeSketch& sketch) 
 std::string ReadCuttingForm(std::string_view keyword, const std::vector<ScriptValue>& arguments,
                             const ModelBuild& build, CuttingForm& form) {
     ShapeInput input;
-    if (std::string refusal = ReadNumbers(arguments, input.numbers); !refusal.empty()) {
+    if (std::string refusal = ReadShapeInput(build, arguments, input); !refusal.empty()) {
         return refusal;
     }
-    input.curves = {build.look.segments, build.look.tolerance, build.look.radiusLowest,
-                    build.look.radiusHighest};
-    input.surface = build.look.surface;
-    input.ownSurfaces = build.model.surfaces.size();
     if (keyword == "CUTFORM" || keyword == "CUTFORM{2}") {
         return ReadForm(input, build, keyword == "CUTFORM" ? MaskRows : SurfaceRows, form);
     }

@@ -14,7 +14,7 @@ namespace {
 std::string SketchStatement(const ModelBuild& build, const ShapeStatement& statement,
                             const std::vector<ScriptValue>& arguments, ShapeSketch& sketch) {
     ShapeInput input;
-    if (std::string refusal = ReadNumbers(arguments, input.numbers); !refusal.empty()) {
+    if (std::string refusal = ReadShapeInput(build, arguments, input); !refusal.empty()) {
         return refusal;
     }
     if (statement.more && input.numbers.size() < statement.arguments) {
@@ -26,11 +26,6 @@ std::string SketchStatement(const ModelBuild& build, const ShapeStatement& state
             return refusal;
         }
     }
-    input.curves = {build.look.segments, build.look.tolerance, build.look.radiusLowest,
-                    build.look.radiusHighest};
-    input.surface = build.look.surface;
-    input.ownSurfaces = build.model.surfaces.size();
-    input.wire = build.look.detail == ModelLook::Detail::Wire;
     return statement.sketch(input, sketch);
 }
 

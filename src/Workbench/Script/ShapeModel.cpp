@@ -102,4 +102,17 @@ std::string AddToModel(ModelBuild& build, ShapeSketch& sketch) {
     return {};
 }
 
+std::string ReadShapeInput(const ModelBuild& build, const std::vector<ScriptValue>& arguments,
+                           ShapeInput& input) {
+    if (std::string refusal = ReadNumbers(arguments, input.numbers); !refusal.empty()) {
+        return refusal;
+    }
+    input.curves = {build.look.segments, build.look.tolerance, build.look.radiusLowest,
+                    build.look.radiusHighest};
+    input.surface = build.look.surface;
+    input.ownSurfaces = build.model.surfaces.size();
+    input.wire = build.look.detail == ModelLook::Detail::Wire;
+    return {};
+}
+
 } // namespace Merivane::Workbench
